@@ -1,0 +1,124 @@
+#include "toolkit/lists.h"
+
+namespace toolkit {
+
+void ItemControl::MoveTo(int row) {
+    index_ = row;
+    IndexChanged();
+    Draw(platform::Aspect::Selection);
+}
+
+void ItemControl::SetListIndex(int row) {
+    const bool isThere = row >= -1 && row < ListCount();
+    const int target = isThere ? row : -1;
+    if (target == index_) {
+        return;
+    }
+    MoveTo(target);
+    if (isThere && OnClick) {
+        OnClick();
+    }
+}
+
+void ItemControl::UserSelects(int row) {
+    if (row != index_) {
+        SetListIndex(row);
+    } else if (row >= 0) {
+        MoveTo(row);
+        if (OnClick) {
+            OnClick();
+        }
+    }
+}
+
+void ItemControl::AddItem(std::string text) {
+    items_.push_back(std::move(text));
+    Draw(platform::Aspect::ItemAdded, ListCount() - 1);
+}
+
+void ItemControl::RemoveItem(int row) {
+    items_.erase(items_.begin() + row);
+    const int old = index_;
+    Draw(platform::Aspect::ItemRemoved, row);
+    if (old >= row) {
+        index_ = old == row ? -1 : old - 1;
+        if (index_ < 0) {
+            IndexChanged();
+        }
+        Draw(platform::Aspect::Selection);
+    }
+}
+
+void ItemControl::Clear() {
+    items_.clear();
+    index_ = -1;
+    Draw(platform::Aspect::ItemsCleared);
+    IndexChanged();
+    Draw(platform::Aspect::Selection);
+}
+
+void ItemControl::Reset() {
+    Control::Reset();
+    items_.clear();
+    index_ = -1;
+}
+
+void ListBox::UserDoubleClicks() {
+    if (OnDoubleClick) {
+        OnDoubleClick();
+    }
+}
+
+void ComboBox::SetText(std::string text) {
+    UserTypes(std::move(text));
+    Draw(platform::Aspect::Selection);
+    Draw(platform::Aspect::Text);
+}
+
+void ComboBox::UserTypes(std::string text) {
+    ForgetIndex();
+    text_ = std::move(text);
+}
+
+void ComboBox::IndexChanged() {
+    text_ = ListIndex() < 0 ? std::string() : List(ListIndex());
+    Draw(platform::Aspect::Text);
+}
+
+void ComboBox::Reset() {
+    ItemControl::Reset();
+    text_.clear();
+}
+
+void ListView::SelectRow(int row) {
+    const int target = row >= 1 && row <= RowCount() ? row : -1;
+    if (target != selected_) {
+        selected_ = target;
+        Draw(platform::Aspect::Selection);
+    }
+}
+
+void ListView::AddRow(std::string first, std::string second) {
+    entries_.push_back({std::move(first), std::move(second)});
+    Draw(platform::Aspect::ItemAdded, RowCount());
+}
+
+void ListView::Clear() {
+    entries_.clear();
+    selected_ = -1;
+    Draw(platform::Aspect::ItemsCleared);
+}
+
+void ListView::UserDoubleClicks() {
+    if (OnDoubleClick) {
+        OnDoubleClick();
+    }
+}
+
+void ListView::Reset() {
+    Control::Reset();
+    entries_.clear();
+    selected_ = -1;
+}
+
+}  // namespace toolkit

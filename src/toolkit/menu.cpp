@@ -1,0 +1,21 @@
+#include "toolkit/menu.h"
+
+#include "platform/desktop.h"
+
+namespace toolkit {
+
+MenuItem::MenuItem(PopupMenu& menu, std::string caption) : caption_(std::move(caption)) {
+    menu.items_.push_back(this);
+}
+
+void MenuItem::UserClicks() {
+    if (enabled_ && OnClick) {
+        OnClick();
+    }
+}
+
+void PopupMenu::PopUp(Window& window) {
+    platform::ShowPopupMenu(window, *this);
+}
+
+}  // namespace toolkit
