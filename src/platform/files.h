@@ -66,9 +66,13 @@ class File {
 /// begins with a point), not a system file, pipe or device. Read-only files count.
 bool IsOrdinaryFile(const std::string& path);
 
-/// The bare name under which `path` finds an ordinary file or, where it ends in `.exe`, the program
-/// that stands for it. Empty when there is none; nothing at all when the text is no usable file
-/// name (a URL).
+/// Whether anything at all has that name: a file of any kind, hidden or not, or a folder.
+bool Exists(const std::string& path);
+
+/// The bare name under which `path` finds an ordinary file, as it is on the disk. A program that
+/// stands for a name in `.exe` goes by the name asked for, so the length is always that of the bare
+/// name in `path`. Empty when there is none; nothing at all when the text is no usable file name (a
+/// URL).
 std::optional<std::string> LookUpFileName(const std::string& path);
 
 /// Bare names of the ordinary files in `directory` that match `pattern` (`*` and `?`, any case), in

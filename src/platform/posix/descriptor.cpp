@@ -1,0 +1,70 @@
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <system_error>
+
+#include "platform/posix/descriptor.h"
+
+namespace platform {
+
+Outcome Failure(int error) {
+    return {false, std::generic_category().message(error)};
+}
+
+bool Descriptor::Close() {
+    return number_ < 0 || close(std::exchange(number_, -1)) == 0 || errno == EINTR;
+}
+
+Outcome OpenRegularFile(const std::string& native, int flags, Descriptor& descriptor) {
+    struct stat facts = {};
+    if (stat(native.c_str(), &facts) == 0 && !S_ISREG(facts.st_mode)) {
+        return Failure(S_ISDIR(facts.st_mode) ? EISDIR : EINVAL);
+    }
+    // Should a pipe have come there since, it is not waited for.
+    constexpr mode_t forEverybody = 0666;  // less what the user's umask takes away
+    Descriptor opened(
+        open(native.c_str(), flags | O_CLOEXEC | O_NONBLOCK | O_NOCTTY, forEverybody));
+    if (opened.Number() < 0 || fstat(opened.Number(), &facts) != 0) {
+        return Failure(errno);
+    }
+    if (!S_ISREG(facts.st_mode)) {
+        return Failure(EINVAL);
+    }
+    descriptor = std::move(opened);
+    return {};
+}
+
+Outcome ReadFully(int descriptor, std::int64_t position, void* buffer, std::size_t size,
+                  std::size_t& count) {
+    count = 0;
+    while (count < size) {
+        const ssize_t got = pread(descriptor, static_cast<char*>(buffer) + count, size - count,
+                                  position + static_cast<std::int64_t>(count));
+        if (got == 0) {
+            break;
+        }
+        if (got > 0) {
+            count += static_cast<std::size_t>(got);
+        } else if (errno != EINTR) {
+            return Failure(errno);
+        }
+    }
+    return {};
+}
+
+Outcome WriteFully(int descriptor, std::int64_t position, std::string_view bytes) {
+    while (!bytes.empty()) {
+        const ssize_t put = pwrite(descriptor, bytes.data(), bytes.size(), position);
+        if (put > 0) {
+            bytes.remove_prefix(static_cast<std::size_t>(put));
+            position += put;
+        } else if (put == 0 || errno != EINTR) {
+            return Failure(put == 0 ? ENOSPC : errno);
+        }
+    }
+    return {};
+}
+
+}  // namespace platform

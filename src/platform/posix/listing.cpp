@@ -1,0 +1,95 @@
+// What stands in a folder: ordinary files, by name and by pattern.
+#include <dirent.h>
+#include <sys/stat.h>
+
+#include <algorithm>
+#include <memory>
+
+#include "platform/files.h"
+#include "platform/posix/paths.h"
+#include "text/ascii.h"
+
+namespace platform {
+namespace {
+
+std::string BareName(const std::string& native) {
+    return native.substr(native.rfind('/') + 1);
+}
+
+bool IsHidden(std::string_view name) {
+    return name.starts_with('.');
+}
+
+bool IsOrdinary(const std::string& native) {
+    struct stat facts = {};
+    return !IsHidden(BareName(native)) && stat(native.c_str(), &facts) == 0 &&
+           S_ISREG(facts.st_mode);
+}
+
+/// `*` stands for any characters, `?` for one. After a mismatch the last `*` takes one more.
+bool Matches(std::string_view name, std::string_view pattern) {
+    std::size_t at = 0;
+    std::size_t inPattern = 0;
+    std::size_t star = std::string_view::npos;
+    std::size_t behindStar = 0;
+    while (at < name.size()) {
+        if (inPattern < pattern.size() && pattern[inPattern] == '*') {
+            star = inPattern++;
+            behindStar = at;
+        } else if (inPattern < pattern.size() &&
+                   (pattern[inPattern] == '?' ||
+                    LowerCase(pattern[inPattern]) == LowerCase(name[at]))) {
+            ++inPattern;
+            ++at;
+        } else if (star != std::string_view::npos) {
+            inPattern = star + 1;
+            at = ++behindStar;
+        } else {
+            return false;
+        }
+    }
+    return pattern.find_first_not_of('*', inPattern) == std::string_view::npos;
+}
+
+/// A Windows folder is listed by the capital forms of its names.
+bool ComesBefore(const std::string& left, const std::string& right) {
+    const int order = UpperCase(left).compare(UpperCase(right));
+    return order != 0 ? order < 0 : left < right;
+}
+
+}  // namespace
+
+bool IsOrdinaryFile(const std::string& path) {
+    const std::optional<std::string> native = FindPath(path);
+    return native && IsOrdinary(*native);
+}
+
+std::optional<std::string> LookUpFileName(const std::string& path) {
+    if (IsUrl(path)) {
+        return std::nullopt;
+    }
+    const std::optional<std::string> native = FindProgram(path);
+    if (!native || !IsOrdinary(*native)) {
+        return "";
+    }
+    // A stand-in goes by the name that was asked for, as long as that name is.
+    const std::string name = BareName(*native);
+    const std::size_t asked = path.size() - (path.find_last_of("/\\:") + 1);
+    return name.size() == asked ? name : path.substr(path.size() - asked);
+}
+
+std::vector<std::string> ListFiles(const std::string& directory, const std::string& pattern) {
+    std::vector<std::string> names;
+    const std::optional<std::string> folder = FindPath(directory);
+    const std::unique_ptr<DIR, int (*)(DIR*)> listing(folder ? opendir(folder->c_str()) : nullptr,
+                                                      closedir);
+    while (const dirent* entry = listing ? readdir(listing.get()) : nullptr) {
+        if (Matches(entry->d_name, pattern) && IsOrdinary(*folder + '/' + entry->d_name)) {
+            names.emplace_back(entry->d_name);
+        }
+    }
+    std::ranges::sort(names, ComesBefore);
+    return names;
+}
+
+}  // namespace platform

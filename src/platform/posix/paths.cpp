@@ -1,0 +1,142 @@
+#include <dirent.h>
+#include <sys/stat.h>
+
+#include <algorithm>
+#include <memory>
+
+#include "platform/posix/paths.h"
+#include "text/ascii.h"
+
+namespace platform {
+namespace {
+
+bool IsLetter(char character) {
+    const char lower = LowerCase(character);
+    return lower >= 'a' && lower <= 'z';
+}
+
+bool HasDrive(std::string_view path) {
+    return path.size() >= 2 && path[1] == ':' && IsLetter(path[0]);
+}
+
+bool IsThere(const std::string& native) {
+    struct stat facts = {};
+    return lstat(native.c_str(), &facts) == 0;
+}
+
+bool IsRegular(const std::string& native) {
+    struct stat facts = {};
+    return stat(native.c_str(), &facts) == 0 && S_ISREG(facts.st_mode);
+}
+
+/// The name in the folder that is equal to `name` but for case, empty when there is none.
+std::string NameInFolder(const std::string& folder, const std::string& name) {
+    const std::unique_ptr<DIR, int (*)(DIR*)> listing(opendir(folder.c_str()), closedir);
+    std::string found;
+    while (const dirent* entry = listing ? readdir(listing.get()) : nullptr) {
+        const std::string_view candidate = entry->d_name;
+        if (EqualIgnoringCase(candidate, name) && (found.empty() || candidate < found)) {
+            found = candidate;
+        }
+    }
+    return found;
+}
+
+/// Gives each component of `native` the name under which it is there, up to the first that is not;
+/// the separators stay as they are. Whether all of it is there.
+bool GiveRealNames(std::string& native) {
+    if (IsThere(native)) {
+        return true;
+    }
+    std::size_t start = native.find_first_not_of('/');
+    while (start != std::string::npos) {
+        const std::size_t end = std::min(native.find('/', start), native.size());
+        if (!IsThere(native.substr(0, end))) {
+            const std::string folder = start == 0 ? "." : native.substr(0, start);
+            const std::string name = NameInFolder(folder, native.substr(start, end - start));
+            if (name.empty()) {
+                return false;
+            }
+            native.replace(start, end - start, name);
+        }
+        start = native.find_first_not_of('/', end);
+    }
+    return IsThere(native);
+}
+
+}  // namespace
+
+std::optional<std::string> NativePath(std::string_view path) {
+    if (path.empty() || path.find('\0') != std::string_view::npos) {
+        return std::nullopt;
+    }
+    if (HasDrive(path)) {
+        if (LowerCase(path[0]) != 'z') {
+            return std::nullopt;
+        }
+        path.remove_prefix(2);
+    }
+    std::string native(path.empty() ? "/" : path);
+    std::ranges::replace(native, '\\', '/');
+    return native;
+}
+
+std::optional<std::string> FindPath(std::string_view path) {
+    std::optional<std::string> native = NativePath(path);
+    if (native && !GiveRealNames(*native)) {
+        native.reset();
+    }
+    return native;
+}
+
+std::optional<std::string> TargetPath(std::string_view path) {
+    std::optional<std::string> native = NativePath(path);
+    if (native) {
+        GiveRealNames(*native);
+    }
+    return native;
+}
+
+std::optional<std::string> FindProgram(std::string_view path) {
+    constexpr std::string_view ending = ".exe";
+    std::optional<std::string> native = FindPath(path);
+    if (!native && EndsWithIgnoringCase(path, ending)) {
+        native = FindPath(path.substr(0, path.size() - ending.size()));
+    }
+    if (native && !IsRegular(*native)) {
+        native.reset();
+    }
+    return native;
+}
+
+std::string WindowsPath(std::string_view native) {
+    std::string path = "Z:" + std::string(native);
+    std::ranges::replace(path, '/', '\\');
+    return path;
+}
+
+std::string NativeText(std::string_view text) {
+    std::string shown;
+    bool isPath = false;
+    for (std::size_t at = 0; at < text.size(); ++at) {
+        const char character = text[at];
+        if (LowerCase(text.substr(at, 3)) == "z:\\") {
+            isPath = true;
+            ++at;
+            continue;
+        }
+        isPath = isPath && character != '\n' && character != '\r';
+        shown += isPath && character == '\\' ? '/' : character;
+    }
+    return shown;
+}
+
+bool IsUrl(std::string_view text) {
+    const std::size_t colon = text.find(':');
+    return colon != std::string_view::npos && colon >= 2 && IsLetter(text[0]) &&
+           text.find_first_not_of(
+               "abcdefghijklmnopqrstuvwxyz"
+               "ABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789+-.") == colon;
+}
+
+}  // namespace platform
