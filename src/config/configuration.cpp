@@ -1,0 +1,77 @@
+#include "config/configuration.h"
+
+#include <utility>
+
+#include "config/reader.h"
+#include "config/writer.h"
+
+namespace {
+
+/// Makes the file if it is not there. `reason` is why it could not be read, which stays the answer
+/// where there is a file with content after all.
+platform::Outcome MakeEmptyFile(const std::string& fileName, const platform::Outcome& reason) {
+    platform::Outcome outcome;
+    const auto file = platform::File::Open(fileName, platform::File::Access::Create, &outcome);
+    return file.IsOpen() && file.Size() > 0 ? reason : outcome;
+}
+
+}  // namespace
+
+platform::Outcome clsConfiguration::LoadConfiguration(const std::string& fileName) {
+    platform::Outcome outcome;
+    const std::string text = platform::ReadWholeFile(fileName, outcome);
+    if (!outcome) {
+        outcome = MakeEmptyFile(fileName, outcome);
+    }
+    if (outcome) {
+        InputConfiguration(text);
+    }
+    return outcome;
+}
+
+void clsConfiguration::InputConfiguration(std::string_view configuration) {
+    std::size_t position = 0;
+    configurationRoot_ = ParseBlock(position, configuration);
+}
+
+void clsConfiguration::NewConfiguration() {
+    configurationRoot_ = std::make_shared<ConfigMap>();
+}
+
+void clsConfiguration::RemoveSetting(std::string_view setting) {
+    configurationRoot_->Remove(setting);
+}
+
+platform::Outcome clsConfiguration::SaveConfiguration(const std::string& fileName,
+                                                      std::string_view newLine,
+                                                      bool whitespace) const {
+    return platform::ReplaceWholeFile(fileName, OutputConfiguration(newLine, whitespace));
+}
+
+std::string clsConfiguration::OutputConfiguration(std::string_view newLine, bool whitespace) const {
+    return OutputBlock(*configurationRoot_, 0, newLine, whitespace);
+}
+
+ConfigValue clsConfiguration::ReadSetting(std::string_view setting, ConfigValue standard,
+                                          bool reference) const {
+    const ConfigValue* const value = configurationRoot_->Find(setting);
+    if (!value) {
+        return standard;
+    }
+    const ConfigMapRef map = value->AsMap();
+    return map && !reference ? ConfigValue(CopyBlock(*map)) : *value;
+}
+
+ConfigMapRef clsConfiguration::Root(bool reference) const {
+    return reference ? configurationRoot_ : CopyBlock(*configurationRoot_);
+}
+
+void clsConfiguration::WriteSetting(std::string_view setting, ConfigValue value, bool reference) {
+    if (!configurationRoot_->Exists(setting)) {
+        configurationRoot_->Add(std::string(setting), std::move(value));
+        return;
+    }
+    const ConfigMapRef map = value.AsMap();
+    configurationRoot_->Item(setting) =
+        map && !reference ? ConfigValue(CopyBlock(*map)) : std::move(value);
+}

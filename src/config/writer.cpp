@@ -1,0 +1,124 @@
+#include "config/writer.h"
+
+#include <span>
+#include <vector>
+
+namespace {
+
+void AppendEscaped(std::string& output, std::string_view text) {
+    constexpr std::string_view special = "\\\n\r\t\"";
+    constexpr std::string_view letters = "\\nrt\"";
+    std::size_t start = 0;
+    for (std::size_t at = 0; at < text.size(); ++at) {
+        const std::size_t which = special.find(text[at]);
+        if (which != std::string_view::npos) {
+            output.append(text, start, at - start).append({'\\', letters[which]});
+            start = at + 1;
+        }
+    }
+    output.append(text, start);
+}
+
+class Writer {
+  public:
+    Writer(std::size_t level, std::string_view newLine, bool whitespace)
+        : outerLevel_(level), newLine_(newLine), whitespace_(whitespace) {}
+
+    std::string Write(const ConfigMap& map);
+
+  private:
+    void WriteEntry(const ConfigEntry& entry);
+    void WriteSetting(const ConfigEntry& entry);
+    void OpenStructure(const std::string& key, const ConfigMap& map);
+    void CloseStructure();
+    void StartLine();
+    void WriteLine(std::string_view content);
+    void WriteEmptyLine();
+
+    std::size_t outerLevel_;
+    std::string_view newLine_;
+    bool whitespace_;
+    std::string output_;
+    /// What is still to be written of each level that is open, the root first.
+    std::vector<std::span<const ConfigEntry>> levels_;
+};
+
+std::string Writer::Write(const ConfigMap& map) {
+    levels_.push_back(map.Entries());
+    while (true) {
+        std::span<const ConfigEntry>& rest = levels_.back();
+        if (!rest.empty()) {
+            const ConfigEntry& entry = rest.front();
+            rest = rest.subspan(1);
+            WriteEntry(entry);
+        } else if (levels_.size() > 1) {
+            CloseStructure();
+        } else {
+            return std::move(output_);
+        }
+    }
+}
+
+void Writer::WriteEntry(const ConfigEntry& entry) {
+    if (const ConfigMapRef map = entry.value.AsMap()) {
+        OpenStructure(entry.key, *map);
+    } else {
+        WriteSetting(entry);
+    }
+}
+
+void Writer::WriteSetting(const ConfigEntry& entry) {
+    StartLine();
+    output_.append(entry.key).append(whitespace_ ? " = " : "=");
+    if (const auto* text = std::get_if<std::string>(&entry.value.Held())) {
+        output_ += '"';
+        AppendEscaped(output_, *text);
+        output_ += '"';
+    } else {
+        output_ += entry.value.IsNothing() ? "\"\"" : entry.value.AsText();
+    }
+    output_.append(";").append(newLine_);
+}
+
+void Writer::OpenStructure(const std::string& key, const ConfigMap& map) {
+    WriteEmptyLine();
+    WriteLine(key);
+    WriteLine("{");
+    levels_.push_back(map.Entries());
+}
+
+void Writer::CloseStructure() {
+    levels_.pop_back();
+    WriteLine("}");
+    WriteEmptyLine();
+}
+
+void Writer::StartLine() {
+    if (whitespace_) {
+        output_.append(outerLevel_ + levels_.size() - 1, '\t');
+    }
+}
+
+void Writer::WriteLine(std::string_view content) {
+    StartLine();
+    output_.append(content).append(newLine_);
+}
+
+void Writer::WriteEmptyLine() {
+    if (whitespace_) {
+        WriteLine({});
+    }
+}
+
+}  // namespace
+
+std::string EscapeText(std::string_view text) {
+    std::string escaped;
+    AppendEscaped(escaped, text);
+    return escaped;
+}
+
+std::string OutputBlock(const ConfigMap& map, std::size_t level, std::string_view newLine,
+                        bool whitespace) {
+    return Writer(level, newLine, whitespace).Write(map);
+}
