@@ -64,6 +64,10 @@ bool IsOrdinaryFile(const std::string& path) {
     return native && IsOrdinary(*native);
 }
 
+bool Exists(const std::string& path) {
+    return FindPath(path).has_value();
+}
+
 std::optional<std::string> LookUpFileName(const std::string& path) {
     if (IsUrl(path)) {
         return std::nullopt;
@@ -72,7 +76,6 @@ std::optional<std::string> LookUpFileName(const std::string& path) {
     if (!native || !IsOrdinary(*native)) {
         return "";
     }
-    // A stand-in goes by the name that was asked for, as long as that name is.
     const std::string name = BareName(*native);
     const std::size_t asked = path.size() - (path.find_last_of("/\\:") + 1);
     return name.size() == asked ? name : path.substr(path.size() - asked);

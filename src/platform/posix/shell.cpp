@@ -1,18 +1,20 @@
 #include "platform/shell.h"
 
 #include <poll.h>
-#include <sys/pidfd.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <chrono>
+#include <climits>
 #include <cstdlib>
 #include <filesystem>
 #include <optional>
 #include <sstream>
+#include <vector>
 
-#include "platform/posix/paths.h"
 #include "platform/posix/arguments.h"
+#include "platform/posix/paths.h"
 #include "platform/posix/spawn.h"
 
 namespace platform {
@@ -102,8 +104,8 @@ std::uint32_t WaitForSingleObject(const ProcessHandle& process, std::uint32_t mi
     }
     for (;;) {
         const auto left = std::chrono::ceil<std::chrono::milliseconds>(end - Clock::now()).count();
-        const int count = poll(
-            &waited, 1, milliseconds == forever ? -1 : static_cast<int>(std::max<long>(left, 0)));
+        const int patience = static_cast<int>(std::clamp<long long>(left, 0, INT_MAX));
+        const int count = poll(&waited, 1, milliseconds == forever ? -1 : patience);
         if (count > 0) {
             return (waited.revents & POLLIN) != 0 ? ended : failed;
         }

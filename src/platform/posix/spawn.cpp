@@ -1,8 +1,10 @@
 #include "platform/posix/spawn.h"
 
+extern "C" {
+#include <sys/pidfd.h>  // says nothing to C++ of its own language in glibc 2.36
+}
 #include <signal.h>
 #include <spawn.h>
-#include <sys/pidfd.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -63,6 +65,7 @@ void CollectAtItsEnd(pid_t child) {
 
 Spawned Spawn(const std::vector<std::string>& arguments, const std::string& folder) {
     std::vector<char*> pointers;
+    pointers.reserve(arguments.size() + 1);
     for (const std::string& argument : arguments) {
         pointers.push_back(const_cast<char*>(argument.c_str()));
     }

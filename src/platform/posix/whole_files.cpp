@@ -1,12 +1,13 @@
 // Whole files, read at once or put in place in one step.
 #include <fcntl.h>
-#include <sys/random.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <array>
 #include <cerrno>
 #include <cstdio>
 #include <filesystem>
+#include <random>
 #include <vector>
 
 #include "platform/files.h"
@@ -27,14 +28,11 @@ std::string EndOfLinks(const std::string& native) {
     return path;
 }
 
-std::string UnusedName() {
-    unsigned long long number = 0;
-    if (getrandom(&number, sizeof number, GRND_NONBLOCK) < 0) {
-        number = static_cast<unsigned long long>(getpid());
-    }
-    char name[40];
-    std::snprintf(name, sizeof name, ".zorvane-%016llx", number);
-    return name;
+std::string RandomName() {
+    std::random_device random;
+    std::array<char, 32> name = {};
+    std::snprintf(name.data(), name.size(), ".zorvane-%08x%08x", random(), random());
+    return name.data();
 }
 
 /// A file in the making beside the one whose place it takes. Goes away unless it gets that place.
@@ -76,7 +74,7 @@ NewFile::NewFile(const std::string& path) {
     constexpr mode_t forEverybody = 0666;  // less what the user's umask takes away
     const mode_t rights = hasOld_ ? old_.st_mode & forEverybody : forEverybody;
     while (made_ && file_.Number() < 0) {
-        name_ = std::filesystem::path(target_).replace_filename(UnusedName());
+        name_ = std::filesystem::path(target_).replace_filename(RandomName());
         file_ = Descriptor(open(name_.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, rights));
         if (file_.Number() < 0 && errno != EEXIST) {
             made_ = Failure(errno);
@@ -100,7 +98,7 @@ Outcome NewFile::CheckOldFile() {
     }
     // The folder's rights would do for the system, but a write-protected file is not ours to
     // change.
-    return access(target_.c_str(), W_OK) == 0 ? Outcome{} : Failure(errno);
+    return faccessat(AT_FDCWD, target_.c_str(), W_OK, AT_EACCESS) == 0 ? Outcome{} : Failure(errno);
 }
 
 Outcome NewFile::Append(std::string_view bytes) {
@@ -110,15 +108,12 @@ Outcome NewFile::Append(std::string_view bytes) {
 }
 
 Outcome NewFile::TakePlace() {
-    if (hasOld_) {
-        constexpr mode_t allRights = 07777;
-        // Only root can give a file away; for everybody else it is theirs already or stays so.
-        if (fchown(file_.Number(), old_.st_uid, old_.st_gid) != 0 && errno != EPERM) {
-            return Failure(errno);
-        }
-        if (fchmod(file_.Number(), old_.st_mode & allRights) != 0) {
-            return Failure(errno);
-        }
+    // A file of somebody else's cannot be given back to him but by root, and some disks keep no
+    // rights at all: neither is a reason to lose what was written.
+    constexpr mode_t allRights = 07777;
+    if (hasOld_ && ((fchown(file_.Number(), old_.st_uid, old_.st_gid) != 0 && errno != EPERM) ||
+                    (fchmod(file_.Number(), old_.st_mode & allRights) != 0 && errno != EPERM))) {
+        return Failure(errno);
     }
     if (fsync(file_.Number()) != 0 || rename(name_.c_str(), target_.c_str()) != 0) {
         return Failure(errno);

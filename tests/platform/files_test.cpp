@@ -1,0 +1,123 @@
+// What the contract of files promises on every system.
+#include "platform/files.h"
+
+#include <gtest/gtest.h>
+
+#include <array>
+
+#include "support/temp_folder.h"
+
+using platform::File;
+using platform::Outcome;
+
+namespace {
+
+std::string ReadAll(const File& file, std::int64_t position) {
+    std::array<char, 64> buffer = {};
+    return {buffer.data(), file.ReadAt(position, buffer.data(), buffer.size())};
+}
+
+TEST(Files, AreReadAndWrittenAtAbsolutePositions) {
+    const TempFolder folder;
+    Outcome outcome;
+    EXPECT_FALSE(File::Open(folder.Path("a.bin"), File::Access::Read, &outcome).IsOpen());
+    EXPECT_FALSE(outcome);
+    EXPECT_FALSE(outcome.reason.empty());
+    EXPECT_FALSE(File::Open(folder.Path("a.bin"), File::Access::ReadWrite).IsOpen());
+
+    File file = File::Open(folder.Path("a.bin"), File::Access::Create, &outcome);
+    ASSERT_TRUE(file.IsOpen()) << outcome.reason;
+    EXPECT_TRUE(file.WriteAt(4, std::string_view("b\0\r\n\xff", 5)));
+    EXPECT_TRUE(file.WriteAt(0, "aa"));
+    EXPECT_TRUE(file.Flush());
+    EXPECT_EQ(file.Size(), 9);
+    EXPECT_EQ(ReadAll(file, 1), std::string("a\0\0b\0\r\n\xff", 8));
+    EXPECT_EQ(ReadAll(file, 9), "");
+    EXPECT_EQ(ReadAll(file, -1), "");
+
+    File reader = File::Open(folder.Path("A.BIN"), File::Access::Read);
+    ASSERT_TRUE(reader.IsOpen());
+    EXPECT_EQ(ReadAll(reader, 0), ReadAll(file, 0));
+    EXPECT_FALSE(reader.WriteAt(0, "x"));
+    reader = File();
+    file.Close();
+    EXPECT_EQ(File::Open(folder.Path("a.bin"), File::Access::Create).Size(), 9);
+}
+
+TEST(Files, OnlyRegularFilesAreOrdinary) {
+    const TempFolder folder;
+    folder.Write("sub/Name.Wad", "x");
+    EXPECT_TRUE(platform::IsOrdinaryFile(folder.Path("sub/Name.Wad")));
+    EXPECT_TRUE(platform::IsOrdinaryFile(folder.Path("SUB/name.wad")));
+    EXPECT_TRUE(platform::Exists(folder.Path("sub")));
+    EXPECT_FALSE(platform::IsOrdinaryFile(folder.Path("sub")));
+    EXPECT_FALSE(platform::Exists(folder.Path("none")));
+    EXPECT_FALSE(platform::IsOrdinaryFile(""));
+    EXPECT_FALSE(File::Open(folder.Path("sub"), File::Access::Read).IsOpen());
+
+    EXPECT_EQ(platform::LookUpFileName(folder.Path("sub/NAME.wad")), "Name.Wad");
+    EXPECT_EQ(platform::LookUpFileName(folder.Path("sub")), "");
+    EXPECT_EQ(platform::LookUpFileName(folder.Path("none")), "");
+    EXPECT_EQ(platform::LookUpFileName("https://example.org/a.txt"), std::nullopt);
+}
+
+TEST(Files, AreListedByPatternInNameOrder) {
+    const TempFolder folder;
+    for (const char* name : {"b.cfg", "A.CFG", "_.cfg", "c.cfg2", "cfg", "a.b.cfg", "z.txt"}) {
+        folder.Write(name, "");
+    }
+    folder.Write("dir.cfg/inside.cfg", "");
+    const struct {
+        const char* pattern;
+        std::vector<std::string> names;
+    } rows[] = {
+        {"*.cfg", {"a.b.cfg", "A.CFG", "b.cfg", "_.cfg"}},
+        {"?.cfg", {"A.CFG", "b.cfg", "_.cfg"}},
+        {"*.*.cfg", {"a.b.cfg"}},
+        {"Z.TXT", {"z.txt"}},
+        {"*.wad", {}},
+    };
+    for (const auto& row : rows) {
+        EXPECT_EQ(platform::ListFiles(folder.Path(), row.pattern), row.names) << row.pattern;
+    }
+    EXPECT_TRUE(platform::ListFiles(folder.Path("none"), "*").empty());
+}
+
+TEST(WholeFiles, TakeThePlaceOfTheOldOne) {
+    const TempFolder folder;
+    const std::string bytes = std::string(100000, 'x') + std::string("\0\r\n\xff", 4);
+    Outcome outcome;
+    EXPECT_TRUE(platform::ReplaceWholeFile(folder.Path("new.cfg"), "first"));
+    EXPECT_EQ(folder.Read("new.cfg"), "first");
+    EXPECT_TRUE(platform::ReplaceWholeFile(folder.Path("NEW.cfg"), bytes));
+    EXPECT_EQ(platform::ReadWholeFile(folder.Path("new.cfg"), outcome), bytes);
+    EXPECT_TRUE(outcome);
+    EXPECT_EQ(folder.Count(), 1);
+
+    EXPECT_FALSE(platform::ReplaceWholeFile(folder.Path("none/new.cfg"), "x"));
+    EXPECT_FALSE(platform::ReplaceWholeFile(folder.Path(), "x"));
+    EXPECT_EQ(platform::ReadWholeFile(folder.Path("none"), outcome), "");
+    EXPECT_FALSE(outcome);
+}
+
+TEST(WholeFiles, AreCopiedAndRemoved) {
+    const TempFolder folder;
+    const std::string from = folder.Write("temp.lmp", std::string(200000, 'd'));
+    folder.Write("old.lmp", "old");
+    EXPECT_TRUE(platform::CopyWholeFile(from, folder.Path("old.lmp")));
+    EXPECT_EQ(folder.Read("old.lmp"), std::string(200000, 'd'));
+
+    const Outcome onItself = platform::CopyWholeFile(from, folder.Path("TEMP.lmp"));
+    EXPECT_FALSE(onItself);
+    EXPECT_FALSE(onItself.reason.empty());
+    EXPECT_EQ(folder.Read("temp.lmp").size(), 200000U);
+    EXPECT_FALSE(platform::CopyWholeFile(from, folder.Path("none/a.lmp")));
+    EXPECT_FALSE(platform::CopyWholeFile(folder.Path("none.lmp"), folder.Path("old.lmp")));
+    EXPECT_EQ(folder.Read("old.lmp").size(), 200000U);
+
+    EXPECT_TRUE(platform::RemoveFile(folder.Path("Temp.lmp")));
+    EXPECT_FALSE(platform::RemoveFile(from));
+    EXPECT_EQ(folder.Count(), 1);
+}
+
+}  // namespace

@@ -1,0 +1,186 @@
+// What only this system's files can go wrong with.
+#include <fcntl.h>
+#include <gtest/gtest.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <csignal>
+
+#include "platform/facts.h"
+#include "platform/files.h"
+#include "support/temp_folder.h"
+
+using platform::File;
+
+namespace {
+
+namespace fs = std::filesystem;
+
+/// Lets no file grow beyond a size for as long as it lives, as a full disk does.
+class SmallDisk {
+  public:
+    explicit SmallDisk(rlim_t size) : handler_(std::signal(SIGXFSZ, SIG_IGN)) {
+        getrlimit(RLIMIT_FSIZE, &old_);
+        const rlimit limit = {size, old_.rlim_max};
+        setrlimit(RLIMIT_FSIZE, &limit);
+    }
+    SmallDisk(const SmallDisk&) = delete;
+    SmallDisk& operator=(const SmallDisk&) = delete;
+    ~SmallDisk() {
+        setrlimit(RLIMIT_FSIZE, &old_);
+        std::signal(SIGXFSZ, handler_);
+    }
+
+  private:
+    rlimit old_ = {};
+    void (*handler_)(int);
+};
+
+/// Takes root's power over all rights away for as long as it lives; the folder is then nobody's.
+class Nobody {
+  public:
+    explicit Nobody(const fs::path& folder) : user_(geteuid()) {
+        if (user_ != 0) {
+            return;
+        }
+        constexpr uid_t nobody = 65534;
+        EXPECT_EQ(chown(folder.c_str(), nobody, nobody), 0);
+        for (const auto& entry : fs::directory_iterator(folder)) {
+            EXPECT_EQ(chown(entry.path().c_str(), nobody, nobody), 0);
+        }
+        EXPECT_EQ(seteuid(nobody), 0);
+    }
+    Nobody(const Nobody&) = delete;
+    Nobody& operator=(const Nobody&) = delete;
+    ~Nobody() { EXPECT_EQ(seteuid(user_), 0); }
+
+  private:
+    uid_t user_;
+};
+
+mode_t RightsOf(const fs::path& path) {
+    struct stat facts = {};
+    return stat(path.c_str(), &facts) == 0 ? facts.st_mode & 07777 : 0;
+}
+
+TEST(PosixFiles, PipesDevicesAndHiddenFilesAreNotOrdinary) {
+    const TempFolder folder;
+    ASSERT_EQ(mkfifo(folder.Native("pipe.wad").c_str(), 0666), 0);
+    folder.Write(".hidden.wad", "x");
+    fs::create_symlink(folder.Native("a.wad"), folder.Native("link.wad"));
+    EXPECT_FALSE(platform::IsOrdinaryFile(folder.Path("link.wad")));
+    folder.Write("a.wad", "x");
+    EXPECT_TRUE(platform::IsOrdinaryFile(folder.Path("link.wad")));
+    for (const std::string& path :
+         {folder.Path("pipe.wad"), folder.Path(".hidden.wad"), std::string(R"(Z:\dev\null)")}) {
+        EXPECT_FALSE(platform::IsOrdinaryFile(path)) << path;
+        EXPECT_TRUE(platform::Exists(path)) << path;
+    }
+    for (const auto access : {File::Access::Read, File::Access::ReadWrite, File::Access::Create}) {
+        EXPECT_FALSE(File::Open(folder.Path("pipe.wad"), access).IsOpen());
+        EXPECT_FALSE(File::Open("/dev/null", access).IsOpen());
+    }
+    EXPECT_FALSE(platform::ReplaceWholeFile(folder.Path("pipe.wad"), "x"));
+    EXPECT_EQ(platform::ListFiles(folder.Path(), "*.wad"),
+              (std::vector<std::string>{"a.wad", "link.wad"}));
+    EXPECT_EQ(platform::LookUpFileName(folder.Path(".hidden.wad")), "");
+}
+
+TEST(PosixFiles, AStandInGoesByTheNameAskedFor) {
+    const TempFolder folder;
+    folder.Write("Game", "x");
+    EXPECT_EQ(platform::LookUpFileName(folder.Path("game.EXE")), "game.EXE");
+    EXPECT_FALSE(platform::IsOrdinaryFile(folder.Path("game.EXE")));
+}
+
+TEST(PosixFiles, NothingStaysOpenInStartedPrograms) {
+    const TempFolder folder;
+    const File file = File::Open(folder.Path("a"), File::Access::Create);
+    EXPECT_NE(fcntl(file.Handle(), F_GETFD) & FD_CLOEXEC, 0);
+}
+
+TEST(PosixFiles, ReplacingKeepsRightsAndFollowsLinks) {
+    const TempFolder folder;
+    folder.Write("real/a.cfg", "old");
+    fs::permissions(folder.Native("real/a.cfg"), fs::perms(0604));
+    fs::create_symlink("real/a.cfg", folder.Native("a.cfg"));
+    fs::create_symlink("real/b.cfg", folder.Native("b.cfg"));
+    EXPECT_TRUE(platform::ReplaceWholeFile(folder.Path("a.cfg"), "new"));
+    EXPECT_TRUE(platform::ReplaceWholeFile(folder.Path("b.cfg"), "made"));
+    EXPECT_TRUE(fs::is_symlink(folder.Native("a.cfg")));
+    EXPECT_EQ(folder.Read("real/a.cfg"), "new");
+    EXPECT_EQ(folder.Read("real/b.cfg"), "made");
+    EXPECT_EQ(RightsOf(folder.Native("real/a.cfg")), 0604U);
+    const mode_t mask = umask(0);
+    umask(mask);
+    EXPECT_EQ(RightsOf(folder.Native("real/b.cfg")), 0666U & ~mask);
+
+    fs::create_hard_link(folder.Native("real/a.cfg"), folder.Native("same"));
+    EXPECT_FALSE(platform::CopyWholeFile(folder.Path("a.cfg"), folder.Path("same")));
+}
+
+TEST(PosixFiles, AFailureLeavesTheOldFileWholeAndNothingBeside) {
+    const TempFolder folder;
+    const std::string old = folder.Write("a.cfg", "old");
+    const std::string big = folder.Write("big", std::string(100000, 'b'));
+    {
+        const SmallDisk disk(8192);
+        const platform::Outcome full = platform::ReplaceWholeFile(old, std::string(10000, 'n'));
+        EXPECT_FALSE(full);
+        EXPECT_FALSE(full.reason.empty());
+        EXPECT_FALSE(platform::CopyWholeFile(big, old));
+        File file = File::Open(big, File::Access::ReadWrite);
+        EXPECT_FALSE(file.WriteAt(100000, "more"));
+    }
+    EXPECT_EQ(folder.Read("a.cfg"), "old");
+    EXPECT_EQ(folder.Count(), 2);
+}
+
+TEST(PosixFiles, WriteProtectionIsKept) {
+    const TempFolder folder;
+    const std::string old = folder.Write("a.cfg", "old");
+    const Nobody nobody(folder.Native());
+    fs::permissions(folder.Native("a.cfg"), fs::perms(0444));
+    EXPECT_FALSE(platform::ReplaceWholeFile(old, "new"));
+    EXPECT_FALSE(File::Open(old, File::Access::ReadWrite).IsOpen());
+    EXPECT_TRUE(platform::IsOrdinaryFile(old));
+    fs::permissions(folder.Native("a.cfg"), fs::perms(0644));
+    fs::permissions(folder.Native(), fs::perms(0555));
+    EXPECT_FALSE(platform::ReplaceWholeFile(old, "new"));
+    EXPECT_FALSE(platform::RemoveFile(old));
+    fs::permissions(folder.Native(), fs::perms(0755));
+    EXPECT_EQ(folder.Read("a.cfg"), "old");
+    EXPECT_EQ(folder.Count(), 1);
+}
+
+TEST(PosixFacts, OwnArgumentsAreFullPathsInQuotes) {
+    const TempFolder folder;
+    const fs::path before = fs::current_path();
+    fs::create_directories(folder.Native("deep/er"));
+    fs::create_directory_symlink("deep/er", folder.Native("link"));
+    fs::current_path(folder.Native());
+    const std::string here = folder.Path();
+    const struct {
+        std::vector<std::string> arguments;
+        std::string text;
+    } rows[] = {
+        {{}, ""},
+        {{"zorvane"}, ""},
+        {{"zorvane", "/a b/c.wad", "Z:\\d.wad"}, R"("Z:\a b\c.wad" "Z:\d.wad")"},
+        {{"zorvane", "./x.wad", "sub/y"}, '"' + here + "\\x.wad\" \"" + here + "\\sub\\y\""},
+        {{"zorvane", "link/../z.wad"}, '"' + here + "\\deep\\z.wad\""},
+        {{"zorvane", "C:\\e.wad", "a\"b", ""}, R"("C:\e.wad" "")"},
+    };
+    for (auto row : rows) {
+        std::vector<char*> pointers;
+        for (std::string& argument : row.arguments) {
+            pointers.push_back(argument.data());
+        }
+        platform::RememberArguments(static_cast<int>(pointers.size()), pointers.data());
+        EXPECT_EQ(platform::OwnCommandLine(), row.text);
+    }
+    fs::current_path(before);
+}
+
+}  // namespace

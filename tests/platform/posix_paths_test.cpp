@@ -1,0 +1,107 @@
+#include <gtest/gtest.h>
+
+#include "platform/posix/arguments.h"
+#include "platform/posix/paths.h"
+#include "support/temp_folder.h"
+
+namespace {
+
+using Texts = std::vector<std::string>;
+
+TEST(Paths, BecomeNativeAtTheDoor) {
+    const struct {
+        const char* path;
+        std::optional<std::string> native;
+    } rows[] = {
+        {R"(Z:\home\u\doom.wad)", "/home/u/doom.wad"},
+        {R"(z:\)", "/"},
+        {"Z:", "/"},
+        {R"(Z:\games/port\)", "/games/port/"},
+        {"/home/u", "/home/u"},
+        {R"(/games/port\game.exe)", "/games/port/game.exe"},
+        {R"(docs\a.txt)", "docs/a.txt"},
+        {R"(C:\doom.wad)", std::nullopt},
+        {"D:readme.txt", std::nullopt},
+        {"", std::nullopt},
+    };
+    for (const auto& row : rows) {
+        EXPECT_EQ(platform::NativePath(row.path), row.native) << row.path;
+    }
+    EXPECT_EQ(platform::NativePath(std::string_view("/a\0b", 4)), std::nullopt);
+    EXPECT_EQ(platform::WindowsPath("/home/u/doom.wad"), R"(Z:\home\u\doom.wad)");
+}
+
+TEST(Paths, AreShownNative) {
+    const struct {
+        const char* text;
+        const char* shown;
+    } rows[] = {
+        {R"(Z:\home\u)", "/home/u"},
+        {R"(Demo: z:\a\b.lmp)", "Demo: /a/b.lmp"},
+        {"a\\b\nsee Z:\\c\\d e\\f\r\ng\\h", "a\\b\nsee /c/d e/f\r\ng\\h"},
+        {R"(-iwad "Z:\a b" -file "Z:\c")", R"(-iwad "/a b" -file "/c")"},
+        {R"(C:\a Z: Z:/ z)", R"(C:\a Z: Z:/ z)"},
+    };
+    for (const auto& row : rows) {
+        EXPECT_EQ(platform::NativeText(row.text), row.shown);
+    }
+}
+
+TEST(Paths, AreFoundWhateverTheCase) {
+    const TempFolder folder;
+    const std::string root = folder.Native();
+    for (const char* name : {"Maps/b.wad", "Maps/B.WAD", "MAPS/x", "port/Game", "port/real.EXE"}) {
+        folder.Write(name, "");
+    }
+    std::filesystem::create_symlink("nowhere", folder.Native("loose"));
+    const struct {
+        const char* path;
+        std::optional<std::string> found;
+    } rows[] = {
+        {"Maps/b.wad", "/Maps/b.wad"}, {"maps/x", "/MAPS/x"},
+        {"maps/b.wad", std::nullopt},  // the first folder decides
+        {"Maps/b.WAD", "/Maps/B.WAD"}, {"LOOSE", "/loose"},
+        {"PORT/game", "/port/Game"},   {"port/game/x", std::nullopt},
+    };
+    for (const auto& row : rows) {
+        const auto found = platform::FindPath(folder.Path(row.path));
+        EXPECT_EQ(found, row.found ? std::optional(root + *row.found) : std::nullopt) << row.path;
+    }
+    EXPECT_EQ(platform::TargetPath(folder.Path("PORT/New.lmp")), root + "/port/New.lmp");
+    EXPECT_EQ(platform::FindProgram(folder.Path("port/game.EXE")), root + "/port/Game");
+    EXPECT_EQ(platform::FindProgram(folder.Path("port/real.exe")), root + "/port/real.EXE");
+    EXPECT_EQ(platform::FindProgram(folder.Path("port.exe")), std::nullopt);
+}
+
+TEST(Paths, UrlsAreTold) {
+    for (const char* url : {"https://example.org/", "mailto:a", "X+1.-:"}) {
+        EXPECT_TRUE(platform::IsUrl(url)) << url;
+    }
+    for (const char* other : {R"(Z:\a)", "/a:b", "", ":", "1a:", R"(a\b:c)", "plain"}) {
+        EXPECT_FALSE(platform::IsUrl(other)) << other;
+    }
+}
+
+TEST(Arguments, AreSplitAtBlanksOutsideQuotes) {
+    const struct {
+        const char* text;
+        Texts arguments;
+    } rows[] = {
+        {"", {}},
+        {"   ", {}},
+        {" -iwad  a.wad ", {"-iwad", "a.wad"}},
+        {R"(-file "a b.wad" "c.wad")", {"-file", "a b.wad", "c.wad"}},
+        {R"("" x "")", {"", "x", ""}},
+        {R"(a"b c"d)", {"ab cd"}},
+        {R"(a "b c)", {"a", "b c"}},
+        {R"(a\"b c\\"d)", {R"(a\b c\\d)"}},
+        {"a\tb 'c d'", {"a\tb", "'c", "d'"}},
+        {R"("Z:\no such\a b" z:\n -xZ:\n C:\n +map)",
+         {"/no such/a b", "/n", R"(-xZ:\n)", R"(C:\n)", "+map"}},
+    };
+    for (const auto& row : rows) {
+        EXPECT_EQ(platform::SplitArguments(row.text), row.arguments) << row.text;
+    }
+}
+
+}  // namespace
