@@ -22,22 +22,23 @@ struct Place {
 
 /// What a row of a window table may say beside name, caption and place.
 enum Flag : unsigned {
-    Default = 1U << 0,  // the Enter key presses this button
-    Cancel = 1U << 1,   // the Escape key presses this button
-    Accent = 1U << 2,   // a button in the colour of the program
-    Bold = 1U << 3,     // a label in bold type
-    Title = 1U << 4,    // a label in large bold type on the title band
-    Small = 1U << 5,    // a label in small type on the title band, set against its right edge
-    Link = 1U << 6,     // a label in blue and underlined, with a hand over it
-    Sunken = 1U << 7,   // a label with a border, broken into lines
-    Quiet = 1U << 8,    // a label in a weaker colour
-    IsPath = 1U << 9,   // a text box that holds a path, shown as the system writes paths
+    Default = 1U << 0,   // the Enter key presses this button
+    Cancel = 1U << 1,    // the Escape key presses this button
+    Accent = 1U << 2,    // a button in the colour of the program
+    Bold = 1U << 3,      // a label in bold type
+    Title = 1U << 4,     // a label in large bold type on the title band
+    Small = 1U << 5,     // a label in small type on the title band, set against its right edge
+    Link = 1U << 6,      // a label in blue and underlined, with a hand over it
+    Sunken = 1U << 7,    // a label with a border, broken into lines
+    Quiet = 1U << 8,     // a label in a weaker colour
+    IsPath = 1U << 9,    // a text box that holds a path, shown as the system writes paths
+    Follows = 1U << 10,  // a label that begins right behind the text of the label in the row before
 };
 
 /// One control of a window, as data.
 struct ControlRow {
     std::string_view name;
-    std::string_view caption;  // the heads of a list view's two columns, "|" between
+    std::string_view caption = {};  // the heads of a list view's two columns, "|" between
     Place place;
     int tab = -1;                   // place in the tab order, -1 for none
     unsigned flags = 0;             // of Flag

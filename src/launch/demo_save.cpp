@@ -1,0 +1,88 @@
+#include "launch/demo_save.h"
+
+#include "launch/command_line.h"
+#include "platform/dialogs.h"
+#include "platform/files.h"
+#include "setup/dialogs/dialogs.h"
+#include "state/records.h"
+#include "state/settings.h"
+
+namespace {
+
+// clang-format off
+constexpr toolkit::ControlRow Rows[] = {
+    {.name = "lblSaveDemo", .caption = "Save demo to...", .place = {9, 9, 220, 9},
+     .names = "txtDemoFile"},
+    {.name = "txtDemoFile", .place = {9, 21, 208, 14}, .tab = 0, .flags = toolkit::IsPath},
+    {.name = "cmdBrowse", .caption = "Browse...", .place = {222, 21, 50, 14}, .tab = 1},
+    {.name = "cmdSave", .caption = "Save", .place = {168, 45, 50, 14}, .tab = 2,
+     .flags = toolkit::Default},
+    {.name = "cmdDiscard", .caption = "Discard", .place = {222, 45, 50, 14}, .tab = 3,
+     .flags = toolkit::Cancel},
+};
+// clang-format on
+
+constexpr toolkit::WindowTable WindowRow = {.name = "frmDemoSave",
+                                            .caption = "Save demo",
+                                            .width = 281,
+                                            .height = 68,
+                                            .dialog = true,
+                                            .rows = Rows};
+
+void Warn(const std::string& text) {
+    platform::ShowMessage(text, ProgramTitle, platform::MessageIcon::Exclamation);
+}
+
+}  // namespace
+
+DemoSaveWindow frmDemoSave;
+
+std::string DemoFilter(const std::string& extension) {
+    return "Demo files (*." + extension + ")|*." + extension + "|All files (*.*)|*.*";
+}
+
+DemoSaveWindow::DemoSaveWindow() : Window(WindowRow) {
+    OnShow = [this] { Propose(); };
+    OnCloseRequest = [this] { Hide(); };
+    cmdBrowse.OnClick = [this] { Browse(); };
+    cmdSave.OnClick = [this] { Save(); };
+    cmdDiscard.OnClick = [this] { Discard(); };
+}
+
+void DemoSaveWindow::Propose() {
+    txtDemoFile.SetText(SettingText("lastdir") + "\\demo." + DemoExt);
+}
+
+std::string DemoSaveWindow::WithDemoExtension(const std::string& path) const {
+    return RemoveExtension(path) + "." + DemoExt;
+}
+
+void DemoSaveWindow::Browse() {
+    const std::string chosen =
+        SaveFileDialog(*this, "Please enter the path and filename of the demo", DemoFilter(DemoExt),
+                       txtDemoFile.Text(), SaveFileFlags);
+    if (!chosen.empty()) {
+        txtDemoFile.SetText(WithDemoExtension(chosen));
+    }
+}
+
+void DemoSaveWindow::Save() {
+    const std::string target = WithDemoExtension(txtDemoFile.Text());
+    if (const platform::Outcome copied = platform::CopyWholeFile(DemoFileName, target); !copied) {
+        Warn("The demo could not be saved to " + target + "\r\n" + copied.reason);
+        return;
+    }
+    if (const platform::Outcome removed = platform::RemoveFile(DemoFileName); !removed) {
+        Warn("The demo is saved. The temporary file is left behind: " + DemoFileName + "\r\n" +
+             removed.reason);
+    }
+    Hide();
+}
+
+void DemoSaveWindow::Discard() {
+    if (const platform::Outcome removed = platform::RemoveFile(DemoFileName); !removed) {
+        Warn("The temporary demo file could not be deleted: " + DemoFileName + "\r\n" +
+             removed.reason);
+    }
+    Hide();
+}

@@ -1,0 +1,192 @@
+// The list of additional files: its content, its menu and the four controls that follow its
+// selection.
+#include <cmath>
+#include <utility>
+
+#include "launch/run_program.h"
+#include "mainwindow/main_window.h"
+#include "platform/desktop.h"
+#include "platform/facts.h"
+#include "platform/files.h"
+#include "setup/dialogs/dialogs.h"
+#include "state/records.h"
+#include "text/ascii.h"
+
+namespace {
+
+constexpr const char* AddTitle = "Please select the WAD file you want to add";
+constexpr const char* WadFilter = "WAD files (*.wad)|*.wad|All files (*.*)|*.*";
+constexpr int RightButton = 2;
+
+bool IsWad(const std::string& path) {
+    return EndsWithIgnoringCase(path, ".wad");
+}
+
+}  // namespace
+
+void MainWindow::TieFileList() {
+    cmdAdd.OnClick = [this] { AddFiles(); };
+    cmdRemove.OnClick = [this] { RemoveFile(); };
+    cmdClear.OnClick = [this] { ClearFiles(); };
+    lstFiles.OnClick = [this] { UpdateFileControls(); };
+    lstFiles.OnDoubleClick = [this] { FileListDoubleClicked(); };
+    lstFiles.OnButtonReleased = [this](int button, double x, double y) {
+        FileListReleased(button, x, y);
+    };
+    cmdGetMapLump.OnClick = [this] { UseFirstMap(); };
+    itmUseFirstMap.OnClick = [this] { UseFirstMap(); };
+    cmdShowTextFile.OnClick = [this] { ViewText(); };
+    itmViewText.OnClick = [this] { ViewText(); };
+}
+
+void MainWindow::FillFileList() {
+    lstFiles.Clear();
+    const std::string commandLine = platform::OwnCommandLine();
+    if (commandLine.empty()) {
+        for (int i = 0; i <= FileList.Count(); ++i) {
+            lstFiles.AddItem(FileList.Item(i));
+        }
+    } else {
+        FileList.Clear();
+        TakeFilesFromCommandLine(commandLine);
+    }
+    if (lstFiles.ListCount() > 0) {
+        lstFiles.SetListIndex(0);
+    }
+}
+
+void MainWindow::TakeFilesFromCommandLine(std::string_view commandLine) {
+    bool insideQuotes = false;
+    std::string path;
+    for (const char character : commandLine) {
+        if (character != '"') {
+            if (insideQuotes) {
+                path += character;
+            }
+            continue;
+        }
+        if (insideQuotes) {
+            AddToFileList(std::exchange(path, {}));
+        }
+        insideQuotes = !insideQuotes;
+    }
+}
+
+void MainWindow::AddToFileList(std::string path) {
+    FileList.Add(path);
+    lstFiles.AddItem(std::move(path));
+}
+
+void MainWindow::AddFiles() {
+    const std::string result =
+        OpenFileDialog(*this, AddTitle, FileFilter(cmbEngines.ListIndex()), "", SeveralFilesFlags);
+    if (result.empty()) {
+        return;
+    }
+    std::size_t nul = result.find('\0');
+    if (nul == std::string::npos) {
+        AddToFileList(result);
+        return;
+    }
+    const std::string prefix = result.substr(0, nul) + "\\";
+    while (nul != std::string::npos) {
+        const std::size_t start = nul + 1;
+        nul = result.find('\0', start);
+        AddToFileList(prefix + result.substr(start, nul - start));
+    }
+}
+
+void MainWindow::RemoveFile() {
+    const int row = lstFiles.ListIndex();
+    if (row < 0) {
+        return;
+    }
+    FileList.Remove(row);
+    lstFiles.RemoveItem(row);
+    if (lstFiles.ListCount() > 0) {
+        lstFiles.SetListIndex(row > 0 ? row - 1 : 0);
+    } else {
+        UpdateFileControls();
+    }
+}
+
+void MainWindow::ClearFiles() {
+    FileList.Clear();
+    lstFiles.Clear();
+    UpdateFileControls();
+}
+
+std::string MainWindow::SelectedFile() const {
+    return lstFiles.ListIndex() < 0 ? std::string() : FileList.Item(lstFiles.ListIndex());
+}
+
+void MainWindow::UpdateFileControls() {
+    const bool selected = lstFiles.ListIndex() >= 0;
+    const bool isWad = selected && IsWad(SelectedFile());
+    itmUseFirstMap.SetEnabled(isWad);
+    cmdGetMapLump.SetEnabled(isWad);
+    const std::string textFile = selected ? TextFileName(lstFiles.ListIndex()) : std::string();
+    const bool hasText = !textFile.empty() && platform::IsOrdinaryFile(textFile);
+    itmViewText.SetEnabled(hasText);
+    cmdShowTextFile.SetEnabled(hasText);
+}
+
+void MainWindow::FileListDoubleClicked() {
+    if (IsWad(SelectedFile())) {
+        UseFirstMap();
+    }
+}
+
+void MainWindow::FileListReleased(int button, double x, double y) {
+    if (lstFiles.ListIndex() < 0 || button != RightButton) {
+        return;
+    }
+    lstFiles.SetFocus();
+    const int row = ListItemAt(lstFiles, x, y);
+    if (row < 0) {
+        return;
+    }
+    lstFiles.SetListIndex(row);
+    UpdateFileControls();
+    mnuFileList.PopUp(*this);
+}
+
+/// The text file that came with an entry has the entry's path up to its first point, folders
+/// included. An entry without any point has none.
+std::string MainWindow::TextFileName(int Index) const {
+    const std::string path = LowerCase(FileList.Item(Index));
+    const std::size_t point = path.find('.');
+    return point == std::string::npos ? std::string() : path.substr(0, point) + ".txt";
+}
+
+void MainWindow::ViewText() {
+    if (lstFiles.ListIndex() < 0) {
+        return;
+    }
+    std::string textFile = TextFileName(lstFiles.ListIndex());
+    RunProgram(textFile, "", ShowMinimizedInactive, false);
+}
+
+std::string FileFilter(int engine) {
+    if (engine < 0) {
+        return WadFilter;
+    }
+    std::string list;
+    std::string patterns;
+    for (const EngineFileType& type : EngineAt(engine).filetypes) {
+        list += type.description + " (*." + type.extension + ")|*." + type.extension + "|";
+        patterns += "*." + type.extension + ";";
+    }
+    list += "All files (*.*)|*.*";
+    return patterns.empty() ? list : "All supported files|" + patterns + "|" + list;
+}
+
+int ListItemAt(const toolkit::ListBox& list, double X, double Y) {
+    const auto pixel = [](double units, double unitsPerPixel) {
+        return static_cast<int>(std::lround(units / unitsPerPixel));
+    };
+    const std::uint32_t answer = platform::ItemFromPoint(list, pixel(X, platform::UnitsPerPixelX()),
+                                                         pixel(Y, platform::UnitsPerPixelY()));
+    return answer >= static_cast<std::uint32_t>(list.ListCount()) ? NoSelection
+                                                                  : static_cast<int>(answer);
+}

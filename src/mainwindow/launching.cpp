@@ -1,0 +1,127 @@
+// The four buttons that start an engine.
+#include "launch/command_line.h"
+#include "launch/demo_save.h"
+#include "launch/run_program.h"
+#include "mainwindow/main_window.h"
+#include "platform/dialogs.h"
+#include "platform/files.h"
+#include "setup/dialogs/dialogs.h"
+#include "state/records.h"
+
+namespace {
+
+constexpr const char* NoEngine = "Please select an engine to launch the game with.";
+constexpr const char* NoGameWad =
+    "Please select a game WAD to launch the game with.\r\n"
+    "If there are no game WADs available in the list, please specify them in the Setup dialog.";
+constexpr const char* NoSkill = "Please select a skill to launch the game with.";
+constexpr const char* LaunchFailed =
+    "Could not launch the game. Check your engine paths and game WAD settings.";
+constexpr const char* RunFailed =
+    "Could not run the game. Please make sure all of your engine, game WAD and Quick Game settings "
+    "are valid.";
+constexpr const char* NoDemo =
+    "Could not find the temporary demo file. This means that the engine you used either doesn't "
+    "support recording demos or it wasn't able to save the demo to the location that Zorvane "
+    "specified.";
+
+void Warn(const char* text) {
+    platform::ShowMessage(text, ProgramTitle, platform::MessageIcon::Exclamation);
+}
+
+/// The first file of a choice: of several, the folder and the first name behind it.
+std::string FirstChosen(const std::string& choice) {
+    const std::size_t nul = choice.find('\0');
+    if (nul == std::string::npos) {
+        return choice;
+    }
+    const std::size_t end = choice.find('\0', nul + 1);
+    return choice.substr(0, nul) + "\\" + choice.substr(nul + 1, end - nul - 1);
+}
+
+}  // namespace
+
+bool MainWindow::ValidateSelection(bool CheckSkill) {
+    const char* missing = cmbEngines.ListIndex() < 0               ? NoEngine
+                          : cmbIWADs.ListIndex() < 0               ? NoGameWad
+                          : CheckSkill && cmbSkill.ListIndex() < 0 ? NoSkill
+                                                                   : nullptr;
+    if (missing != nullptr) {
+        Warn(missing);
+    }
+    return missing == nullptr;
+}
+
+void MainWindow::Launch() {
+    if (!ValidateSelection(false)) {
+        return;
+    }
+    const int engine = cmbEngines.ListIndex();
+    std::string program = ProgramFile(EngineAt(engine));
+    const std::string line = LaunchCommandLine(engine, GameWadAt(cmbIWADs.ListIndex()).file);
+    if (RunProgram(program, line, ShowNormally, false) == 0) {
+        Warn(LaunchFailed);
+    }
+}
+
+void MainWindow::Run() {
+    RecordDemoRequested = false;
+    PlayDemoRequested = false;
+    RunQuickStart();
+}
+
+void MainWindow::Record() {
+    if (cmbEngines.ListIndex() < 0) {
+        Warn(NoEngine);
+        return;
+    }
+    RecordDemoRequested = true;
+    PlayDemoRequested = false;
+    const EngineRecord& engine = EngineAt(cmbEngines.ListIndex());
+    frmDemoSave.DemoFileName = engine.path + "\\temp.lmp";
+    frmDemoSave.DemoExt = engine.demoext;
+    RunQuickStart();
+    if (!platform::IsOrdinaryFile(frmDemoSave.DemoFileName)) {
+        Warn(NoDemo);
+        return;
+    }
+    Repaint();
+    frmDemoSave.ShowModal();
+}
+
+void MainWindow::PlayBack() {
+    if (cmbEngines.ListIndex() < 0) {
+        Warn(NoEngine);
+        return;
+    }
+    const std::string filter = DemoFilter(EngineAt(cmbEngines.ListIndex()).demoext);
+    PlayDemoFile = FirstChosen(OpenFileDialog(*this, "Select demo", filter, "", SeveralFilesFlags));
+    if (PlayDemoFile.empty()) {
+        return;
+    }
+    RecordDemoRequested = false;
+    PlayDemoRequested = true;
+    RunQuickStart();
+}
+
+void MainWindow::RunQuickStart() {
+    if (!ValidateSelection(true)) {
+        return;
+    }
+    QuickStart start;
+    start.engine = cmbEngines.ListIndex();
+    start.gameWad = GameWadAt(cmbIWADs.ListIndex()).file;
+    start.skill = cmbSkill.ListIndex();
+    start.noMonsters = chkNoMonsters.Checked();
+    start.fastMonsters = chkFastMonsters.Checked();
+    start.respawnMonsters = chkRespawnMonsters.Checked();
+    start.map = cmbMaps.Text();
+    start.recordTo = RecordDemoRequested ? frmDemoSave.DemoFileName : std::string();
+    start.playFrom = PlayDemoRequested ? PlayDemoFile : std::string();
+    start.parameters = txtParameters.Text();
+    std::string program = ProgramFile(EngineAt(start.engine));
+    if (RunProgram(program, QuickStartCommandLine(start, FileList), ShowNormally,
+                   RecordDemoRequested) == 0) {
+        Warn(RunFailed);
+    }
+}

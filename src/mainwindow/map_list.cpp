@@ -1,0 +1,47 @@
+#include <string>
+#include <vector>
+
+#include "mainwindow/main_window.h"
+#include "platform/dialogs.h"
+#include "state/records.h"
+#include "text/ascii.h"
+#include "wad/maps.h"
+#include "wad/wad.h"
+
+void MainWindow::FillMapList(const std::string& FileName, toolkit::ComboBox& Maps) {
+    clsWad wad;
+    wad.OpenWad(FileName);
+    Maps.Clear();
+    for (std::string& name : MapNames(wad)) {
+        Maps.AddItem(std::move(name));
+    }
+}
+
+void MainWindow::UseFirstMap() {
+    const std::string fileName = SelectedFile();
+    std::string firstMap;
+    {
+        clsWad wad;
+        wad.OpenWad(fileName);
+        firstMap = LowestMap(wad);
+    }
+    const std::string shownPath = LowerCase(fileName);
+    if (firstMap.empty()) {
+        platform::ShowMessage("There are no map lumps in " + shownPath + ".", ProgramTitle,
+                              platform::MessageIcon::Information);
+        return;
+    }
+    for (int row = 0; row < cmbMaps.ListCount(); ++row) {
+        if (cmbMaps.List(row) == firstMap) {
+            cmbMaps.SetListIndex(row);
+            return;
+        }
+    }
+    platform::ShowMessage("Warning: The map " + firstMap +
+                              " does not appear in the game WAD.\r\n"
+                              "Make sure you have selected the game WAD matching the one needed "
+                              "for " +
+                              shownPath + ".",
+                          ProgramTitle, platform::MessageIcon::Exclamation);
+    cmbMaps.SetText(firstMap);
+}

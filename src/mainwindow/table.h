@@ -1,0 +1,6 @@
+// The main window as data.
+#pragma once
+
+#include "toolkit/window.h"
+
+extern const toolkit::WindowTable MainWindowTable;

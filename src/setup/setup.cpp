@@ -1,0 +1,168 @@
+#include "setup/setup.h"
+
+#include "platform/dialogs.h"
+#include "setup/dialogs/dialogs.h"
+#include "setup/engine_settings.h"
+#include "state/records.h"
+#include "state/settings.h"
+#include "text/ascii.h"
+#include "wad/wad.h"
+
+namespace {
+
+// clang-format off
+constexpr toolkit::ControlRow Rows[] = {
+    {.name = "lblIWADs", .caption = "Game WADs", .place = {9, 8, 200, 9}, .tab = 8,
+     .names = "lvwIWADs"},
+    {.name = "lvwIWADs", .caption = "Name|File", .place = {9, 19, 358, 76}, .tab = 0},
+    {.name = "cmdRename", .caption = "Rename", .place = {209, 99, 50, 14}, .tab = 1},
+    {.name = "cmdRemove", .caption = "Remove", .place = {263, 99, 50, 14}, .tab = 2},
+    {.name = "cmdAdd", .caption = "Add", .place = {317, 99, 50, 14}, .tab = 3},
+    {.name = "lblEngines", .caption = "Engines", .place = {9, 120, 200, 9}, .tab = 9,
+     .names = "lvwEngines"},
+    {.name = "lvwEngines", .caption = "Name|File", .place = {9, 131, 358, 76}, .tab = 4},
+    {.name = "cmdPath", .caption = "Path...", .place = {263, 211, 50, 14}, .tab = 5},
+    {.name = "cmdEngineSettings", .caption = "Settings...", .place = {317, 211, 50, 14}, .tab = 6},
+    {.name = "cmdOK", .caption = "Accept", .place = {317, 237, 50, 14}, .tab = 7,
+     .flags = toolkit::Default},
+};
+// clang-format on
+
+constexpr toolkit::WindowTable WindowRow = {.name = "frmSetup",
+                                            .caption = "Program setup",
+                                            .width = 376,
+                                            .height = 260,
+                                            .dialog = true,
+                                            .rows = Rows};
+
+constexpr const char* WadFilter = "WAD files (*.wad)|*.wad|All files (*.*)|*.*";
+constexpr const char* PatchWadMessage =
+    "Please select a game IWAD. The file you selected was a patch WAD.";
+constexpr const char* NameTitle = "Enter a name";
+
+bool IsGameWad(const std::string& path) {
+    constexpr int GameWadType = 0;
+    clsWad wad;
+    wad.OpenWad(path);
+    return wad.WadType() == GameWadType;
+}
+
+/// Selects row 1, if there is one, and then the row that was selected before, if it is there.
+void SelectAgain(toolkit::ListView& view, int row) {
+    view.SelectRow(1);
+    if (row >= 1 && row <= view.RowCount()) {
+        view.SelectRow(row);
+    }
+}
+
+}  // namespace
+
+SetupWindow frmSetup;
+
+SetupWindow::SetupWindow() : Window(WindowRow) {
+    cmdAdd.OnClick = [this] { Add(); };
+    cmdRemove.OnClick = [this] { Remove(); };
+    cmdRename.OnClick = [this] { Rename(); };
+    lvwIWADs.OnDoubleClick = [this] { Rename(); };
+    cmdPath.OnClick = [this] { SetPath(); };
+    cmdEngineSettings.OnClick = [this] { ShowEngineSettings(); };
+    lvwEngines.OnDoubleClick = [this] { ShowEngineSettings(); };
+    cmdOK.OnClick = [this] { Accept(); };
+    OnCloseRequest = [this] { Accept(); };
+}
+
+void SetupWindow::SetupLists() {
+    const int gameWadRow = lvwIWADs.SelectedRow();
+    const int engineRow = lvwEngines.SelectedRow();
+    lvwIWADs.Clear();
+    for (const GameWadRecord& gameWad : GameWads) {
+        lvwIWADs.AddRow(gameWad.name, gameWad.file);
+    }
+    lvwEngines.Clear();
+    for (const EngineRecord& engine : Engines) {
+        lvwEngines.AddRow(engine.realname, engine.path + "\\");
+    }
+    SelectAgain(lvwIWADs, gameWadRow);
+    SelectAgain(lvwEngines, engineRow);
+}
+
+void SetupWindow::Add() {
+    const std::string file =
+        OpenFileDialog(*this, "Please select a game WAD", WadFilter, "", OneFileFlags);
+    if (file.empty()) {
+        return;
+    }
+    if (!IsGameWad(file)) {
+        platform::ShowMessage(PatchWadMessage, ProgramTitle, platform::MessageIcon::Exclamation);
+        return;
+    }
+    const std::string name = platform::AskForText(
+        "Please enter the formal name of the game WAD " + LowerCase(file) + ".", NameTitle,
+        ProposedName(file));
+    if (name.empty()) {
+        return;
+    }
+    GameWads.push_back({name, file});
+    SetupLists();
+}
+
+void SetupWindow::Remove() {
+    if (lvwIWADs.SelectedRow() < 1) {
+        return;
+    }
+    GameWads.erase(GameWads.begin() + (lvwIWADs.SelectedRow() - 1));
+    SetupLists();
+}
+
+void SetupWindow::Rename() {
+    if (lvwIWADs.SelectedRow() < 1) {
+        return;
+    }
+    GameWadRecord& gameWad = GameWadAt(lvwIWADs.SelectedRow() - 1);
+    const std::string name = platform::AskForText(
+        "Please enter the name of the game WAD " + UpperCase(gameWad.file) + ".", NameTitle,
+        gameWad.name);
+    if (name.empty()) {
+        return;
+    }
+    gameWad.name = name;
+    SetupLists();
+}
+
+void SetupWindow::SetPath() {
+    if (lvwEngines.SelectedRow() < 1) {
+        return;
+    }
+    EngineRecord& engine = EngineAt(lvwEngines.SelectedRow() - 1);
+    const std::string folder = BrowseForFolder(
+        *this, "Please select the folder in which " + LowerCase(engine.executable) + " resides.");
+    if (folder.empty()) {
+        return;
+    }
+    engine.path = folder;
+    SetupLists();
+}
+
+void SetupWindow::ShowEngineSettings() {
+    if (lvwEngines.SelectedRow() < 1) {
+        return;
+    }
+    frmEngineSettings.PassEngine(lvwEngines.SelectedRow() - 1);
+    frmEngineSettings.ShowModal();
+}
+
+void SetupWindow::Accept() {
+    if (SettingNumber("iwad") > GameWadCount() - 1) {
+        StoreSetting("iwad", GameWadCount() - 1);
+    }
+    if (OnAccepted) {
+        OnAccepted();
+    }
+    Hide();
+}
+
+std::string ProposedName(const std::string& path) {
+    const std::string key = LowerCase(path.substr(path.rfind('\\') + 1));
+    const ConfigValue* name = Autodetect.Root()->Find(key);
+    return name != nullptr ? name->AsText() : std::string();
+}

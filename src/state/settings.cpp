@@ -1,0 +1,179 @@
+#include "state/settings.h"
+
+#include <variant>
+
+#include "platform/dialogs.h"
+#include "platform/facts.h"
+#include "state/engine_files.h"
+#include "state/startup.h"
+
+namespace {
+
+constexpr const char* SettingsMark = "Zorvane Configuration file";
+constexpr const char* CorruptedMessage = "The configuration file was corrupted.";
+
+enum class Default { Mark, Empty, ProgramDirectory, List };
+
+/// The keys of the root, in the order of a new file.
+struct SettingRow {
+    const char* key;
+    std::variant<std::int16_t, Default> value;
+};
+
+constexpr std::int16_t None = NoSelection;
+constexpr std::int16_t DefaultSkill = 2;
+constexpr std::int16_t Off = 0;
+
+constexpr SettingRow Rows[] = {
+    {"type", Default::Mark},
+    {"engine", None},
+    {"iwad", None},
+    {"skill", DefaultSkill},
+    {"map", None},
+    {"fastmonsters", Off},
+    {"nomonsters", Off},
+    {"respawnmonsters", Off},
+    {"deathmatch", Off},
+    {"parameters", Default::Empty},
+    {"lastdir", Default::ProgramDirectory},
+    {"iwads", Default::List},
+    {"engines", Default::List},
+    {"pwads", Default::List},
+};
+
+ConfigValue DefaultValue(const SettingRow& row) {
+    if (const auto* number = std::get_if<std::int16_t>(&row.value)) {
+        return *number;
+    }
+    switch (std::get<Default>(row.value)) {
+        case Default::Mark:
+            return std::string(SettingsMark);
+        case Default::ProgramDirectory:
+            return platform::ProgramDirectory();
+        case Default::List:
+            return std::make_shared<ConfigMap>();
+        case Default::Empty:
+            break;
+    }
+    return std::string();
+}
+
+/// The structure of that key. Where there is none a new one takes its place.
+ConfigMapRef ListOf(std::string_view key) {
+    ConfigValue& value = Settings.Root()->Item(key);
+    if (!value.IsMap()) {
+        value = std::make_shared<ConfigMap>();
+    }
+    return value.AsMap();
+}
+
+GameWadRecord GameWadFrom(const std::string& text) {
+    const std::size_t bar = text.find('|');
+    if (bar == std::string::npos) {
+        return {text, text};
+    }
+    return {text.substr(0, bar), text.substr(bar + 1)};
+}
+
+void LoadLists() {
+    GameWads.clear();
+    for (const auto& entry : ListOf("iwads")->Entries()) {
+        GameWads.push_back(GameWadFrom(entry.value.AsText()));
+    }
+    const ConfigMapRef engines = ListOf("engines");
+    for (EngineRecord& engine : Engines) {
+        const ConfigValue* stored = engines->Find(EngineKey(engine.realname));
+        if (const ConfigMapRef entry = stored != nullptr ? stored->AsMap() : nullptr) {
+            engine.path = entry->Item("path").AsText();
+            OptionsFromString(entry->Item("options").AsText(), engine.options);
+        }
+    }
+    FileList.Clear();
+    for (const auto& entry : ListOf("pwads")->Entries()) {
+        FileList.Add(entry.value.AsText());
+    }
+}
+
+void StoreLists() {
+    const ConfigMapRef iwads = ListOf("iwads");
+    iwads->RemoveAll();
+    for (std::size_t i = 0; i < GameWads.size(); ++i) {
+        iwads->Add(std::to_string(i), GameWads[i].name + "|" + GameWads[i].file);
+    }
+    const ConfigMapRef engines = ListOf("engines");
+    engines->RemoveAll();
+    for (const EngineRecord& engine : Engines) {
+        const ConfigMapRef entry = std::make_shared<ConfigMap>();
+        entry->Add("path", engine.path);
+        entry->Add("options", OptionsToString(engine.options));
+        engines->Add(EngineKey(engine.realname), entry);
+    }
+    const ConfigMapRef pwads = ListOf("pwads");
+    pwads->RemoveAll();
+    for (std::int32_t i = 0; i <= FileList.Count(); ++i) {
+        pwads->Add(std::to_string(i), FileList.Item(i));
+    }
+}
+
+}  // namespace
+
+void InitialiseSettings() {
+    Settings.NewConfiguration();
+    SettingsFileName = platform::ProgramDirectory() + "\\zorvane.cfg";
+    for (const SettingRow& row : Rows) {
+        Settings.Root()->Add(row.key, DefaultValue(row));
+    }
+}
+
+void LoadSettings() {
+    const platform::Outcome outcome = Settings.LoadConfiguration(SettingsFileName);
+    const ConfigValue* type = Settings.Root()->Find("type");
+    const bool isOurs =
+        outcome && type != nullptr && type->IsText() && type->AsText() == SettingsMark;
+    if (!isOurs) {
+        platform::ShowMessage(CorruptedMessage, ProgramTitle, platform::MessageIcon::Critical);
+        ShutDown();
+    }
+    LoadLists();
+}
+
+platform::Outcome SaveSettings() {
+    StoreLists();
+    return SaveDefaults();
+}
+
+platform::Outcome SaveDefaults() {
+    return Settings.SaveConfiguration(SettingsFileName);
+}
+
+std::string OptionsToString(const EngineOptions& options) {
+    std::string text;
+    for (const bool on : options) {
+        text += on ? '1' : '0';
+    }
+    return text;
+}
+
+void OptionsFromString(std::string_view text, EngineOptions& options) {
+    for (std::size_t i = 0; i < text.size() && i < options.size(); ++i) {
+        if (text[i] == '1') {
+            options[i] = true;
+        }
+    }
+}
+
+std::int32_t SettingNumber(std::string_view key) {
+    return Settings.Root()->Item(key).AsWhole();
+}
+
+std::string SettingText(std::string_view key) {
+    return Settings.Root()->Item(key).AsText();
+}
+
+void StoreSetting(std::string_view key, int number) {
+    Settings.Root()->Item(key) = static_cast<std::int16_t>(number);
+}
+
+void StoreSetting(std::string_view key, const std::string& text) {
+    Settings.Root()->Item(key) = text;
+}

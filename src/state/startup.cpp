@@ -1,0 +1,66 @@
+#include "state/startup.h"
+
+#include <ranges>
+
+#include "platform/dialogs.h"
+#include "platform/facts.h"
+#include "platform/files.h"
+#include "state/engine_files.h"
+#include "state/records.h"
+#include "state/settings.h"
+#include "toolkit/window.h"
+
+Application TheApplication;
+
+namespace {
+
+/// The settings are the user's, so that an end of the run has to save them.
+bool settingsAreOurs = false;
+bool shuttingDown = false;
+
+void TellUnsaved(const platform::Outcome& outcome) {
+    if (!outcome) {
+        platform::ShowMessage(
+            "The settings could not be saved to " + SettingsFileName + "\r\n" + outcome.reason,
+            ProgramTitle, platform::MessageIcon::Critical);
+    }
+}
+
+}  // namespace
+
+void Main() {
+    settingsAreOurs = false;
+    shuttingDown = false;
+    const std::string directory = platform::ProgramDirectory();
+    InitialiseSettings();
+    ScanEngineFiles(directory + "\\engines");
+    if (platform::Exists(SettingsFileName)) {
+        LoadSettings();
+    } else {
+        TellUnsaved(SaveDefaults());
+    }
+    settingsAreOurs = true;
+    Autodetect.LoadConfiguration(directory + "\\autodetect.cfg");
+
+    for (toolkit::Window* window : TheApplication.windows) {
+        window->Load();
+    }
+    if (TheApplication.afterLoading) {
+        TheApplication.afterLoading();
+    }
+    TheApplication.windows.front()->Show();
+}
+
+void ShutDown() {
+    if (shuttingDown) {
+        return;
+    }
+    shuttingDown = true;
+    if (settingsAreOurs) {
+        TellUnsaved(SaveSettings());
+    }
+    for (toolkit::Window* window : std::views::reverse(TheApplication.windows)) {
+        window->Unload();
+    }
+    platform::EndProcess();
+}

@@ -1,0 +1,117 @@
+#include "memory.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <utility>
+
+#include "platform/shell.h"
+
+namespace memory {
+
+Machine machine;
+
+std::string TakeMessage() {
+    if (machine.messages.empty()) {
+        return {};
+    }
+    std::string text = machine.messages.front().text;
+    machine.messages.erase(machine.messages.begin());
+    return text;
+}
+
+void Reset() {
+    for (const Message& message : machine.messages) {
+        ADD_FAILURE() << "unexpected message: " << message.text;
+    }
+    EXPECT_TRUE(machine.files.empty() && machine.folders.empty() && machine.texts.empty())
+        << "an answer was never asked for";
+    machine = Machine();
+}
+
+namespace {
+
+/// The next of the queued answers.
+std::string Next(std::deque<std::string>& answers, const std::string& question) {
+    if (answers.empty()) {
+        ADD_FAILURE() << "unexpected question: " << question;
+        return {};
+    }
+    std::string answer = std::move(answers.front());
+    answers.pop_front();
+    return answer;
+}
+
+bool AnswerFileDialog(platform::OpenFileName& record) {
+    machine.fileQuestions.push_back(record);
+    const std::string answer = Next(machine.files, record.lpstrTitle);
+    if (answer.empty() || answer.size() > record.nMaxFile - 2) {
+        return false;
+    }
+    std::ranges::copy(answer, record.lpstrFile.begin());
+    return true;
+}
+
+}  // namespace
+}  // namespace memory
+
+using memory::machine;
+
+namespace platform {
+
+void RememberArguments(int, char**) {}
+std::string ProgramDirectory() {
+    return machine.programDirectory;
+}
+VersionNumbers ProgramVersion() {
+    return machine.version;
+}
+std::string OwnCommandLine() {
+    return machine.commandLine;
+}
+void EndProcess() {
+    throw memory::ProcessEnded();
+}
+
+ProcessHandle::~ProcessHandle() = default;
+
+bool ShellExecuteExA(ShellExecuteInfo& info) {
+    machine.started.push_back({info.lpFile, info.lpParameters, info.lpDirectory, info.nShow});
+    if (machine.accepts) {
+        info.hProcess = ProcessHandle(0);
+        if (machine.program) {
+            machine.program(machine.started.back());
+        }
+    }
+    return machine.accepts;
+}
+
+std::uint32_t WaitForSingleObject(const ProcessHandle&, std::uint32_t) {
+    constexpr std::uint32_t TimeOut = 258;
+    return machine.rounds-- > 0 ? TimeOut : 0;
+}
+
+bool GetOpenFileNameA(OpenFileName& record) {
+    return memory::AnswerFileDialog(record);
+}
+bool GetSaveFileNameA(OpenFileName& record) {
+    return memory::AnswerFileDialog(record);
+}
+
+std::string BrowseForFolderPath(const BrowseInfo& info) {
+    machine.folderQuestions.push_back(info.lpszTitle);
+    return memory::Next(machine.folders, info.lpszTitle);
+}
+
+void ShowMessage(const std::string& text, const std::string& title, MessageIcon icon) {
+    EXPECT_EQ(title, "Zorvane");
+    machine.messages.push_back({text, icon});
+}
+
+std::string AskForText(const std::string& prompt, const std::string& title,
+                       const std::string& preset) {
+    machine.textQuestions.push_back({prompt, title, preset});
+    return memory::Next(machine.texts, prompt);
+}
+
+}  // namespace platform

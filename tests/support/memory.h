@@ -1,0 +1,66 @@
+// The machine in memory: windows that nobody sees, dialogs that answer from a script, programs that
+// do not run. The files are the real ones of the system.
+#pragma once
+
+#include <deque>
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "platform/dialogs.h"
+#include "platform/facts.h"
+
+namespace memory {
+
+struct Message {
+    std::string text;
+    platform::MessageIcon icon;
+};
+
+struct TextQuestion {
+    std::string prompt;
+    std::string title;
+    std::string preset;
+};
+
+struct StartedProgram {
+    std::string file;
+    std::string parameters;
+    std::string directory;
+    int show = 0;
+};
+
+/// What was asked of the machine, and what it answers. Answers are queued beforehand; a question
+/// that nobody expected fails the test.
+struct Machine {
+    std::string programDirectory;
+    std::string commandLine;
+    platform::VersionNumbers version{1, 0, 61};
+
+    std::vector<Message> messages;
+
+    std::deque<std::string> files;    // chosen in file dialogs, empty for Cancel
+    std::deque<std::string> folders;  // chosen in folder dialogs
+    std::deque<std::string> texts;    // typed into input boxes
+    std::vector<platform::OpenFileName> fileQuestions;
+    std::vector<std::string> folderQuestions;
+    std::vector<TextQuestion> textQuestions;
+
+    std::vector<StartedProgram> started;
+    bool accepts = true;                                 // the shell's answer
+    std::function<void(const StartedProgram&)> program;  // what a started program does
+    int rounds = 0;                                      // of a wait, before the program ends
+    std::function<void()> onEvents;                      // what happens in each of them
+};
+extern Machine machine;
+
+/// Thrown where the process would end.
+struct ProcessEnded {};
+
+/// A fresh machine; fails the test when the old one has messages, answers or steps left over.
+void Reset();
+
+/// The oldest message that was shown, taken out of the list; an empty text when there is none.
+std::string TakeMessage();
+
+}  // namespace memory

@@ -1,0 +1,94 @@
+#include "session.h"
+
+#include <ranges>
+
+#include "mainwindow/application.h"
+#include "mainwindow/main_window.h"
+#include "state/records.h"
+#include "state/startup.h"
+
+namespace {
+
+std::string Number(std::uint32_t value) {
+    std::string bytes;
+    for (int shift = 0; shift < 32; shift += 8) {
+        bytes += static_cast<char>(value >> shift & 0xff);
+    }
+    return bytes;
+}
+
+}  // namespace
+
+std::string WadBytes(std::string_view tag, const std::vector<std::string>& lumps) {
+    constexpr std::uint32_t HeaderSize = 12;
+    std::string bytes =
+        std::string(tag) + Number(static_cast<std::uint32_t>(lumps.size())) + Number(HeaderSize);
+    for (std::string name : lumps) {
+        name.resize(8);
+        bytes += Number(HeaderSize) + Number(0) + name;
+    }
+    return bytes;
+}
+
+std::string MapWad(std::string_view tag, const std::vector<std::string>& maps) {
+    std::vector<std::string> lumps;
+    for (const std::string& map : maps) {
+        for (const std::string& lump :
+             {map, std::string("THINGS"), std::string("LINEDEFS"), std::string("SIDEDEFS"),
+              std::string("VERTEXES"), std::string("SEGS"), std::string("SSECTORS"),
+              std::string("NODES"), std::string("SECTORS"), std::string("REJECT"),
+              std::string("BLOCKMAP")}) {
+            lumps.push_back(lump);
+        }
+    }
+    return WadBytes(tag, lumps);
+}
+
+Session::Session() {
+    memory::Reset();
+    memory::machine.programDirectory = folder.Path();
+}
+
+Session::~Session() {
+    for (toolkit::Window* window : std::views::reverse(TheApplication.windows)) {
+        window->Unload();
+    }
+    ResetState();
+    memory::Reset();
+}
+
+void Session::DefineEngine(const std::string& name, int switches) {
+    std::string text = "type = \"Zorvane engine file\"; executable = \"" + name +
+                       ".exe\"; realname = \"" + name + "\"; demoext = \"lmp\"; parameters {";
+    for (int i = 1; i <= switches; ++i) {
+        text += "Switch" + std::to_string(i) + " = \"Caption " + std::to_string(i) + "\";";
+    }
+    folder.Write("engines/" + name + ".cfg",
+                 text + "} filetypes { wad = \"WAD files\"; deh = \"Patches\"; }");
+}
+
+void Session::WriteSettings(std::string_view lines) {
+    folder.Write("zorvane.cfg", "type = \"Zorvane Configuration file\";" + std::string(lines));
+}
+
+bool Session::Start() {
+    for (toolkit::Window* window : std::views::reverse(TheApplication.windows)) {
+        window->Unload();
+    }
+    ResetState();
+    TieApplication();
+    return !Ends([] { Main(); });
+}
+
+void Session::Exit() {
+    EXPECT_TRUE(Ends([] { driver::Click(frmMain.cmdExit); })) << "Exit did not end the process";
+}
+
+bool Session::Ends(const std::function<void()>& steps) {
+    try {
+        steps();
+    } catch (const memory::ProcessEnded&) {
+        return true;
+    }
+    return false;
+}

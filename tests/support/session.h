@@ -1,0 +1,38 @@
+// A run of the whole system in memory, in a program directory of its own on the real disk.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "driver.h"
+#include "memory.h"
+#include "temp_folder.h"
+
+/// One lump of a WAD to be made: only its name matters.
+std::string WadBytes(std::string_view tag, const std::vector<std::string>& lumps);
+/// A WAD of maps, each with its ten lumps of data.
+std::string MapWad(std::string_view tag, const std::vector<std::string>& maps);
+
+class Session : public testing::Test {
+  protected:
+    Session();
+    ~Session() override;
+
+    /// Adds a definition file for an engine of that name, with `switches` numbered from 1.
+    void DefineEngine(const std::string& name, int switches = 3);
+    /// Writes a settings file of the right type with the given lines behind the type.
+    void WriteSettings(std::string_view lines);
+    std::string SettingsFile() const { return folder.Read("zorvane.cfg"); }
+
+    /// Starts the program; gives whether it came up, false when it stopped by itself.
+    bool Start();
+    /// Ends it by the button Exit; anything that ends the process does as well.
+    void Exit();
+    /// Runs steps that are to end the process; gives whether they did.
+    static bool Ends(const std::function<void()>& steps);
+
+    TempFolder folder;
+};
