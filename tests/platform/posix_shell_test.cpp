@@ -81,7 +81,7 @@ TEST_F(Shell, StartsAProgramInItsFolderWithItsArguments) {
 TEST_F(Shell, AProgramHasASessionAndSignalsOfItsOwn) {
     WriteScript("game",
                 "cut -d' ' -f6 /proc/$$/stat >said.new; echo $$ >>said.new\n"
-                "grep -E '^Sig(Blk|Ign)' /proc/$$/status >>said.new; mv said.new said");
+                "grep -E '^Sig(Blk|Ign)' /proc/self/status >>said.new; mv said.new said");
     const auto handler = std::signal(SIGINT, SIG_IGN);
     ASSERT_TRUE(Start("game", "", folder_.Path()));
     std::signal(SIGINT, handler);
