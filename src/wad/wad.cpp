@@ -1,0 +1,109 @@
+#include "wad/wad.h"
+
+#include <algorithm>
+#include <array>
+#include <limits>
+#include <utility>
+
+#include "text/ascii.h"
+#include "wad/little_endian.h"
+
+namespace {
+
+constexpr std::size_t tagLength = 4;
+constexpr std::int32_t headerBytes = 12;
+constexpr std::int32_t highest = std::numeric_limits<std::int32_t>::max();
+constexpr std::int32_t mostLumps = (1 << 27);  // a directory of 2 GiB
+
+std::int32_t Limited(std::int64_t number) {
+    constexpr std::int64_t lowest = std::numeric_limits<std::int32_t>::min();
+    return static_cast<std::int32_t>(std::clamp<std::int64_t>(number, lowest, highest));
+}
+
+template <class Bytes>
+Bytes ReadBytes(const platform::File& file, const WadLumpEntry& entry) {
+    Bytes bytes(static_cast<std::size_t>(std::max(entry.size, 0)), 0);
+    if (!bytes.empty() && entry.filePos >= 0) {
+        file.ReadAt(entry.filePos, bytes.data(), bytes.size());
+    }
+    return bytes;
+}
+
+}  // namespace
+
+void clsWad::ResetWad() {
+    file_.Close();
+    wadTag_ = "PWAD";
+    lastLump_ = -1;
+    dirOffset_ = headerBytes;
+    openName_.clear();
+    directory_.Clear();
+}
+
+void clsWad::OpenWad(std::string fileName) {
+    using Access = platform::File::Access;
+    if (!platform::IsOrdinaryFile(fileName)) {
+        return;
+    }
+    ResetWad();
+    file_ = platform::File::Open(fileName, Access::ReadWrite);
+    if (!file_.IsOpen()) {
+        file_ = platform::File::Open(fileName, Access::Read);
+    }
+    if (!file_.IsOpen() || !ReadHeaderAndDirectory()) {
+        ResetWad();
+        return;
+    }
+    openName_ = std::move(fileName);
+}
+
+bool clsWad::ReadHeaderAndDirectory() {
+    std::array<char, headerBytes> header{};
+    file_.ReadAt(0, header.data(), header.size());
+    wadTag_.assign(header.data(), tagLength);
+    const std::int32_t count = DecodeInt32(&header[4]);
+    if ((wadTag_ != "IWAD" && wadTag_ != "PWAD") || count < -1 || count > mostLumps) {
+        return false;
+    }
+    lastLump_ = count - 1;
+    dirOffset_ = DecodeInt32(&header[8]);
+    return count == -1 || directory_.Read(file_, dirOffset_, count);
+}
+
+std::vector<unsigned char> clsWad::ReadLump(std::int32_t lumpNum) const {
+    return ReadBytes<std::vector<unsigned char>>(file_, directory_.Entry(lumpNum));
+}
+
+std::string clsWad::ReadLumpString(std::int32_t lumpNum) const {
+    return ReadBytes<std::string>(file_, directory_.Entry(lumpNum));
+}
+
+std::int32_t clsWad::SeekLump(std::int32_t lumpIndex) const {
+    file_.Seek(LumpOffset(lumpIndex));
+    return file_.Handle();
+}
+
+std::int32_t clsWad::WadType() const {
+    return wadTag_ == "PWAD" ? 1 : 0;
+}
+
+std::string clsWad::LumpName(std::int32_t lump) const {
+    return StripLumpName(directory_.NameField(lump));
+}
+
+std::int32_t clsWad::WadSize() const {
+    return Limited(file_.Size());
+}
+
+std::int32_t clsWad::NumForName(std::string_view lumpName) const {
+    return directory_.Find(UpperCase(TrimBlanks(lumpName)));
+}
+
+std::int32_t clsWad::WastedSpace() const {
+    std::int64_t wasted = file_.Size() - headerBytes;
+    wasted -= std::int64_t{directory_.Count()} * std::int64_t{WadDirectory::entryBytes};
+    for (std::int32_t lump = 0; lump < directory_.StoredCount(); ++lump) {
+        wasted -= LumpSize(lump);
+    }
+    return Limited(wasted);
+}
