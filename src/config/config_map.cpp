@@ -1,6 +1,7 @@
 #include "config/config_map.h"
 
 #include <algorithm>
+#include <array>
 #include <utility>
 
 namespace {
@@ -24,23 +25,36 @@ ConfigMap::ConfigMap(std::vector<ConfigEntry> entries) : entries_(std::move(entr
     if (entries_.size() > walkedKeys) {
         large_ = std::make_unique<Large>(Large{KeyIndex(entries_.size()), {}});
     }
+    // The hashes come first, a batch at a time, so that the slots are on their way from memory.
+    std::array<std::uint32_t, 16> hashes{};
     std::uint32_t kept = 0;
-    for (ConfigEntry& entry : entries_) {
-        const std::uint32_t hash = Hash(entry.key);
-        const std::uint32_t first = Place(entry.key, hash, kept);
-        if (first != KeyIndex::absent) {
-            entries_[first].value = std::move(entry.value);
-            continue;
+    for (std::size_t at = 0; at < entries_.size(); ++at) {
+        if (large_ && at % hashes.size() == 0) {
+            const std::size_t batch = std::min(hashes.size(), entries_.size() - at);
+            for (std::size_t ahead = 0; ahead < batch; ++ahead) {
+                hashes[ahead] = KeyIndex::Hash(entries_[at + ahead].key);
+                large_->index.Prefetch(hashes[ahead]);
+            }
         }
-        if (&entry != &entries_[kept]) {
-            entries_[kept] = std::move(entry);
-        }
-        if (large_) {
-            large_->index.Insert(hash, kept);
-        }
-        ++kept;
+        Keep(entries_[at], hashes[at % hashes.size()], kept);
     }
     entries_.erase(entries_.begin() + kept, entries_.end());
+}
+
+/// Moves an entry behind the `kept` ones, or its value to the one of the same key.
+void ConfigMap::Keep(ConfigEntry& entry, std::uint32_t hash, std::uint32_t& kept) {
+    const std::uint32_t first = Place(entry.key, hash, kept);
+    if (first != KeyIndex::absent) {
+        entries_[first].value = std::move(entry.value);
+        return;
+    }
+    if (&entry != &entries_[kept]) {
+        entries_[kept] = std::move(entry);
+    }
+    if (large_) {
+        large_->index.Insert(hash, kept);
+    }
+    ++kept;
 }
 
 /// Nested maps are let go of one by one and not by each other, so that depth costs no stack.

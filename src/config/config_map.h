@@ -60,6 +60,7 @@ class ConfigMap {
     std::uint32_t Hash(std::string_view key) const;
     std::uint32_t Place(std::string_view key, std::uint32_t hash, std::size_t count) const;
     std::uint32_t Place(std::string_view key) const;
+    void Keep(ConfigEntry& entry, std::uint32_t hash, std::uint32_t& kept);
     ConfigValue& Append(std::string key, ConfigValue value);
     void IndexAll() const;
     void CloseGaps() const;

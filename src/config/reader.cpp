@@ -68,7 +68,7 @@ class Reader {
     void Open();
     void Close();
 
-    const char* EndOfRun(Stop stop) const;
+    void TakeRun(Stop stop, std::string& target);
     const char* NextPresent(const char* from) const;
     void Store(ConfigValue value);
 
@@ -90,9 +90,7 @@ ConfigMapRef Reader::Read() {
 
 void Reader::ReadEntries() {
     while (at_ != end_) {
-        const char* const run = at_;
-        at_ = EndOfRun(StopsKey);
-        key_.append(run, at_);
+        TakeRun(StopsKey, key_);
         if (at_ == end_) {
             return;
         }
@@ -138,23 +136,22 @@ void Reader::ReadValue() {
 }
 
 void Reader::ReadNumber() {
-    const char* const end = std::find(at_, end_, ';');
-    if (end == end_) {
-        at_ = end_;
+    const char* const start = at_;
+    bool single = false;
+    bool hasReturns = false;
+    for (; at_ != end_ && *at_ != ';'; ++at_) {
+        single = single || *at_ == '.';
+        hasReturns = hasReturns || *at_ == '\r';
+    }
+    if (at_ == end_) {
         return;
     }
-    const std::string_view raw(at_, end);
-    at_ = end + 1;
-    const bool single = raw.find('.') != std::string_view::npos;
-    double number = 0;
-    if (raw.find('\r') == std::string_view::npos) {
-        number = NumberValue(raw);
-    } else {
-        value_ = raw;
+    value_.assign(start, at_++);
+    if (hasReturns) {
         std::erase(value_, '\r');
-        number = NumberValue(value_);
-        value_.clear();
     }
+    const double number = NumberValue(value_);
+    value_.clear();
     Store(single ? ConfigValue(SingleNumber(number)) : ConfigValue(number));
 }
 
@@ -162,9 +159,7 @@ void Reader::ReadNumber() {
 /// meets no key.
 void Reader::ReadString() {
     while (at_ != end_) {
-        const char* const run = at_;
-        at_ = EndOfRun(StopsString);
-        value_.append(run, at_);
+        TakeRun(StopsString, value_);
         if (at_ == end_) {
             return;
         }
@@ -251,12 +246,14 @@ void Reader::Close() {
     Store(std::make_shared<ConfigMap>(std::move(own)));
 }
 
-const char* Reader::EndOfRun(Stop stop) const {
+/// Appends the plain characters from here up to the next one that means something.
+void Reader::TakeRun(Stop stop, std::string& target) {
     const char* at = at_;
     while (at != end_ && !(stops[static_cast<unsigned char>(*at)] & stop)) {
         ++at;
     }
-    return at;
+    target.append(at_, static_cast<std::size_t>(at - at_));
+    at_ = at;
 }
 
 const char* Reader::NextPresent(const char* from) const {
