@@ -1,0 +1,43 @@
+#include "platform/qt/pictures.h"
+
+#include <QFile>
+#include <QIcon>
+#include <cmath>
+
+#include "platform/qt/look.h"
+#include "platform/qt/text.h"
+
+namespace platform::qt {
+namespace {
+
+QString FileOf(const QString& name, int ratio) {
+    const QString suffix = ratio > 1 ? QStringLiteral("@%1x").arg(ratio) : QString();
+    return QStringLiteral(":/art/%1%2.png").arg(name, suffix);
+}
+
+}  // namespace
+
+QPixmap LoadPicture(std::string_view name, double pixelRatio, const QPalette& palette) {
+    QString base = Decode(name);
+    const QString darkForm = base + QStringLiteral("-dark");
+    if (IsDark(palette) && QFile::exists(FileOf(darkForm, 1))) {
+        base = darkForm;
+    }
+    int ratio = std::min(3, static_cast<int>(std::ceil(pixelRatio)));
+    while (ratio > 1 && !QFile::exists(FileOf(base, ratio))) {
+        --ratio;
+    }
+    QPixmap picture(FileOf(base, ratio));
+    picture.setDevicePixelRatio(ratio);
+    return picture;
+}
+
+QIcon ProgramIcon() {
+    QIcon icon;
+    for (const int size : {16, 32, 48}) {
+        icon.addFile(QStringLiteral(":/art/icon-%1.png").arg(size), QSize(size, size));
+    }
+    return icon;
+}
+
+}  // namespace platform::qt

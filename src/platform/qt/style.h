@@ -1,0 +1,20 @@
+// A light touch over the plain desktop style: flat surfaces with thin rounded outlines.
+#pragma once
+
+#include <QProxyStyle>
+
+namespace platform::qt {
+
+class Style final : public QProxyStyle {
+  public:
+    Style() : QProxyStyle(QStringLiteral("fusion")) {}
+
+    void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                       const QWidget* widget) const override;
+    void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
+                            QPainter* painter, const QWidget* widget) const override;
+    int pixelMetric(PixelMetric metric, const QStyleOption* option,
+                    const QWidget* widget) const override;
+};
+
+}  // namespace platform::qt

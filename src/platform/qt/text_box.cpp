@@ -1,0 +1,42 @@
+#include <QLineEdit>
+#include <QSignalBlocker>
+
+#include "platform/qt/controls.h"
+#include "platform/qt/text.h"
+
+namespace platform::qt {
+namespace {
+
+/// The control keeps its exact text until the user changes what is shown of it.
+class TextBoxWidget final : public QLineEdit, public NativeControl {
+  public:
+    TextBoxWidget(toolkit::TextBox& box, QWidget& parent) : QLineEdit(&parent), box_(box) {
+        DrawContent(Aspect::Text, -1);
+        connect(this, &QLineEdit::textChanged, this,
+                [this](const QString& typed) { box_.UserTypes(Encode(typed)); });
+    }
+
+    QWidget& Widget() override { return *this; }
+
+    void DrawContent(Aspect aspect, int) override {
+        if (aspect != Aspect::Text) {
+            return;
+        }
+        const QString shown = box_.Has(toolkit::IsPath) ? Shown(box_.Text()) : Decode(box_.Text());
+        if (shown != text()) {
+            const QSignalBlocker silence(this);
+            setText(shown);
+        }
+    }
+
+  private:
+    toolkit::TextBox& box_;
+};
+
+}  // namespace
+
+NativeControl* MakeTextBox(toolkit::TextBox& box, QWidget& parent) {
+    return new TextBoxWidget(box, parent);
+}
+
+}  // namespace platform::qt
