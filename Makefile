@@ -1,0 +1,95 @@
+# Thin names over CMake. Each first installs what this machine lacks (on Debian and its family).
+MAKEFLAGS += --no-print-directory
+INSTALL := scripts/install-packages
+SECONDS_PER_TARGET ?= 60
+
+.PHONY: help run prepare-run tour test sanitize bench fuzz windows test-windows package format lint clean
+
+help:
+	@echo 'make run           build Zorvane and start it; without a display, take a tour with pictures'
+	@echo 'make tour          the journey through every window on a virtual display, with pictures'
+	@echo 'make test          build everything and run every test'
+	@echo 'make sanitize      the tests with faults of memory and undefined behaviour made visible'
+	@echo 'make bench         measure, with other libraries beside ours'
+	@echo 'make fuzz          a minute for each fuzz target (SECONDS_PER_TARGET=60)'
+	@echo 'make windows       the Windows programs and their zips, in dist/'
+	@echo 'make test-windows  the tests of the Windows build, under Wine'
+	@echo 'make package       the Debian package, in dist/'
+	@echo 'make format        bring every source into form'
+	@echo 'make lint          layers, form and clang-tidy'
+	@echo 'make clean         remove build/ and dist/'
+
+run: prepare-run
+	@if [ -n "$$DISPLAY$$WAYLAND_DISPLAY" ]; then build/run/zorvane; else $(MAKE) tour; fi
+
+# A program directory ready to use: build/run, with the engines and free games of this machine.
+prepare-run:
+	@$(INSTALL) build desktop engines
+	cmake --preset release -DZORVANE_TESTS=OFF
+	cmake --build build/release --target zorvane
+	scripts/prepare-run build/release/src/zorvane build/run
+
+tour: prepare-run
+	@$(INSTALL) test display
+	cmake --preset release -DZORVANE_TESTS=ON
+	cmake --build build/release --target zorvane_tour
+	scripts/run-tour build/release build/run build/tour
+
+test:
+	@$(INSTALL) build desktop engines test display
+	cmake --preset release -DZORVANE_TESTS=ON
+	cmake --build build/release
+	@scripts/run-tests build/release
+
+# What Qt and the drivers beneath it never give back is not ours to mend.
+sanitize:
+	@$(INSTALL) build desktop engines test display
+	cmake --preset asan
+	cmake --build build/asan
+	@ASAN_OPTIONS=detect_leaks=0 scripts/run-tests build/asan --label-regex qt --label-exclude e2e
+	@scripts/run-tests build/asan --label-exclude 'qt|e2e'
+
+bench:
+	@$(INSTALL) build desktop bench display
+	cmake --preset bench
+	cmake --build build/bench
+	@scripts/run-bench build/bench
+
+fuzz:
+	@$(INSTALL) build fuzz
+	cmake --preset fuzz
+	cmake --build build/fuzz
+	@scripts/run-fuzz build/fuzz $(SECONDS_PER_TARGET)
+
+windows:
+	@$(INSTALL) build windows wine
+	cmake --preset win64
+	cmake --build build/win64
+	cmake --preset win32
+	cmake --build build/win32
+	packaging/windows/pack
+
+test-windows:
+	@$(INSTALL) build windows wine display
+	cmake --preset win64
+	cmake --build build/win64
+	@WINEPREFIX=$(CURDIR)/build/wine WINEDEBUG=-all scripts/run-tests build/win64
+
+package:
+	@$(INSTALL) build desktop package
+	packaging/debian/pack
+
+format:
+	@$(INSTALL) lint
+	scripts/format
+
+lint:
+	@$(INSTALL) build desktop engines test lint
+	scripts/check-layers --self-test
+	scripts/check-layers
+	scripts/format --check
+	cmake --preset release -DZORVANE_TESTS=ON
+	scripts/check-tidy build/release
+
+clean:
+	rm -rf build dist
