@@ -49,7 +49,7 @@ std::string OwnCommandLine() {
     std::string text;
     for (const std::string& argument : ownArguments) {
         if (argument.find('"') == std::string::npos) {
-            text.append(text.empty() ? "" : " ").append("\"" + FullPath(argument) + "\"");
+            text.append(text.empty() ? "\"" : " \"").append(FullPath(argument)).append("\"");
         }
     }
     return text;

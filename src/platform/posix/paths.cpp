@@ -110,7 +110,8 @@ std::optional<std::string> FindProgram(std::string_view path) {
 }
 
 std::string WindowsPath(std::string_view native) {
-    std::string path = "Z:" + std::string(native);
+    std::string path = "Z:";
+    path.append(native);
     std::ranges::replace(path, '/', '\\');
     return path;
 }
