@@ -25,7 +25,7 @@ class Session : public testing::Test {
     void DefineEngine(const std::string& name, int switches = 3);
     /// Writes a settings file of the right type with the given lines behind the type.
     void WriteSettings(std::string_view lines);
-    std::string SettingsFile() const { return folder.Read("zorvane.cfg"); }
+    std::string SettingsBytes() const { return folder.Read("zorvane.cfg"); }
 
     /// Starts the program; gives whether it came up, false when it stopped by itself.
     bool Start();

@@ -1,0 +1,116 @@
+#include "state/settings.h"
+
+#include "session.h"
+#include "state/records.h"
+#include "text/ascii.h"
+
+namespace {
+
+class SettingsCase : public Session {
+  protected:
+    SettingsCase() { DefineEngine("Sample Engine"); }
+};
+
+/// The file of a new installation, the folder of the program apart.
+std::string Defaults(const std::string& directory) {
+    const std::string head =
+        "type = \"Zorvane Configuration file\";\r\nengine = -1;\r\niwad = -1;\r\nskill = 2;\r\n"
+        "map = -1;\r\nfastmonsters = 0;\r\nnomonsters = 0;\r\nrespawnmonsters = 0;\r\n"
+        "deathmatch = 0;\r\nparameters = \"\";\r\nlastdir = \"";
+    return head + ReplaceAll(directory, "\\", "\\\\") +
+           "\";\r\n\r\niwads\r\n{\r\n}\r\n\r\n\r\nengines\r\n{\r\n}\r\n\r\n\r\npwads\r\n{\r\n}\r\n"
+           "\r\n";
+}
+
+TEST_F(SettingsCase, FirstRunWritesTheDefaultsByteForByte) {
+    ASSERT_TRUE(Start());
+    EXPECT_EQ(SettingsBytes(), Defaults(folder.Path()));
+    EXPECT_EQ(folder.Read("autodetect.cfg"), "");
+    EXPECT_TRUE(std::filesystem::exists(folder.Native("autodetect.cfg")));
+}
+
+TEST_F(SettingsCase, TakesTheListsFromTheFileAndWritesThemFresh) {
+    std::string pwads;
+    for (int i = 0; i < 12; ++i) {
+        pwads += "k" + std::to_string(99 - i) + " = \"C:\\\\" + std::to_string(i) + ".wad\";";
+    }
+    WriteSettings(
+        "unknown = \"kept\"; engine = 0; iwad = 0; skill = 2; map = -1;"
+        "iwads { 7 = \"A \\\"game\\\"|C:\\\\a|b.wad\"; 3 = \"no bar\"; }"
+        "engines { Sample\x01"
+        "Engine { path = \"C:\\\\Sample\"; options = "
+        "\"1x100000000000011\"; extra = 1; } Gone { path = \"x\"; } }"
+        "pwads {" +
+        pwads + "}");
+    ASSERT_TRUE(Start());
+    ASSERT_EQ(GameWadCount(), 2);
+    EXPECT_EQ(GameWadAt(0).name, "A \"game\"");
+    EXPECT_EQ(GameWadAt(0).file, "C:\\a|b.wad");
+    EXPECT_EQ(GameWadAt(1).name + "/" + GameWadAt(1).file, "no bar/no bar");
+    EXPECT_EQ(EngineAt(0).path, "C:\\Sample");
+    EXPECT_EQ(FileList.Count(), 11);
+    EXPECT_EQ(FileList.Item(11), "C:\\11.wad");
+    Exit();
+    const std::string file = SettingsBytes();
+    EXPECT_NE(file.find("unknown = \"kept\";\r\nengine = 0;"), std::string::npos);
+    EXPECT_NE(file.find("engines\r\n{\r\n\t\r\n\tSample\x01"
+                        "Engine\r\n\t{\r\n"
+                        "\t\tpath = \"C:\\\\Sample\";\r\n\t\toptions = \"1010000000000001\";\r\n"
+                        "\t}\r\n\t\r\n}\r\n"),
+              std::string::npos)
+        << file;
+    EXPECT_NE(file.find("\t9 = \"C:\\\\9.wad\";\r\n\t10 = \"C:\\\\10.wad\";"), std::string::npos);
+    ASSERT_TRUE(Start());
+    Exit();
+    EXPECT_EQ(SettingsBytes(), file) << "a run without a change changes nothing";
+}
+
+TEST_F(SettingsCase, AFileOfAnotherKindStopsTheProgramAndStays) {
+    const std::string whole = Defaults(folder.Path());
+    const std::string bad[] = {"",
+                               "type = \"zorvane configuration file\";",
+                               whole.substr(30),
+                               "\xff\xfe\x00{{{{{{{{",
+                               "type = 5;",
+                               "type { a = \"Zorvane Configuration file\"; }"};
+    for (const std::string& bytes : bad) {
+        folder.Write("zorvane.cfg", bytes);
+        EXPECT_FALSE(Start());
+        EXPECT_EQ(memory::TakeMessage(), "The configuration file was corrupted.");
+        EXPECT_EQ(SettingsBytes(), bytes);
+    }
+    std::filesystem::remove(folder.Native("zorvane.cfg"));
+    std::filesystem::create_directory(folder.Native("zorvane.cfg"));
+    EXPECT_FALSE(Start()) << "a folder of that name";
+    EXPECT_EQ(memory::TakeMessage(), "The configuration file was corrupted.");
+}
+
+TEST_F(SettingsCase, ComesUpWithWhatIsLeftOfAFile) {
+    const std::string whole = Defaults(folder.Path());
+    for (std::size_t length = 45; length < whole.size(); length += 7) {
+        SCOPED_TRACE(length);
+        folder.Write("zorvane.cfg", whole.substr(0, length));
+        ASSERT_TRUE(Start());
+        Exit();
+        ASSERT_TRUE(Start()) << "what was written is whole again";
+    }
+    WriteSettings("iwads = 5; engines = \"x\"; pwads = 1; engine = \"\"; skill = \"3\"; map {}");
+    ASSERT_TRUE(Start());
+    EXPECT_EQ(SettingNumber("engine"), 0);
+    EXPECT_EQ(SettingNumber("skill"), 3) << "a text counts with the number that it gives";
+    Exit();
+    EXPECT_NE(SettingsBytes().find("iwads\r\n{\r\n}\r\n"), std::string::npos);
+}
+
+TEST_F(SettingsCase, ReadsNumbersRoundedAndEntersWhatItMissed) {
+    WriteSettings("skill = 2.6; nomonsters = 1e99;");
+    ASSERT_TRUE(Start());
+    EXPECT_EQ(SettingNumber("absent"), 0);
+    EXPECT_EQ(SettingText("another"), "");
+    Exit();
+    const std::string file = SettingsBytes();
+    EXPECT_NE(file.find("skill = 3;"), std::string::npos) << file;
+    EXPECT_NE(file.find("absent = \"\";\r\nanother = \"\";"), std::string::npos) << file;
+}
+
+}  // namespace
