@@ -3,7 +3,6 @@
 
 #include <cstdint>
 #include <memory>
-#include <ranges>
 #include <span>
 #include <string>
 #include <string_view>
@@ -15,6 +14,26 @@
 struct ConfigEntry {
     std::string key;
     ConfigValue value;
+};
+
+/// One side of a map's entries, the keys or the values, where they lie.
+template <auto Side>
+struct ConfigSequence {
+    struct Iterator {
+        const ConfigEntry* at;
+        const auto& operator*() const { return at->*Side; }
+        Iterator& operator++() {
+            ++at;
+            return *this;
+        }
+        bool operator==(const Iterator&) const = default;
+    };
+    std::span<const ConfigEntry> entries;
+
+    std::size_t size() const { return entries.size(); }
+    const auto& operator[](std::size_t index) const { return entries[index].*Side; }
+    Iterator begin() const { return {entries.data()}; }
+    Iterator end() const { return {entries.data() + entries.size()}; }
 };
 
 /// Keys are any texts, compared exactly, each of them once. A key keeps its place when its value is
@@ -46,8 +65,8 @@ class ConfigMap {
     std::int32_t Count() const;
     /// All keys with their values, all keys, all values: indexed from 0, in the map's order.
     std::span<const ConfigEntry> Entries() const;
-    auto Keys() const { return std::views::transform(Entries(), &ConfigEntry::key); }
-    auto Items() const { return std::views::transform(Entries(), &ConfigEntry::value); }
+    ConfigSequence<&ConfigEntry::key> Keys() const { return {Entries()}; }
+    ConfigSequence<&ConfigEntry::value> Items() const { return {Entries()}; }
 
   private:
     /// How a map finds its keys once it is large. Entries taken out stay as empty places until

@@ -15,11 +15,11 @@ enum Stop : unsigned char { StopsKey = 1, StopsString = 2 };
 
 constexpr auto stops = [] {
     std::array<unsigned char, 256> table{};
-    for (const unsigned char character : {' ', '\n', '\r', '\t', '{', '}', '=', ';', '/'}) {
-        table[character] |= StopsKey;
+    for (const char character : std::string_view(" \n\r\t{}=;/")) {
+        table[static_cast<unsigned char>(character)] |= StopsKey;
     }
-    for (const unsigned char character : {'\r', '\t', '"', '\\', ';'}) {
-        table[character] |= StopsString;
+    for (const char character : std::string_view("\r\t\"\\;")) {
+        table[static_cast<unsigned char>(character)] |= StopsString;
     }
     return table;
 }();

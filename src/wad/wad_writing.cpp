@@ -53,7 +53,7 @@ platform::Outcome clsWad::AddLump(std::string_view lumpName, std::string_view lu
     if (lumpData.size() > highest - static_cast<std::size_t>(dirOffset_)) {
         return Refused("A WAD ends below 2 GiB.");
     }
-    const platform::Outcome outcome = file_.WriteAt(dirOffset_, lumpData);
+    platform::Outcome outcome = file_.WriteAt(dirOffset_, lumpData);
     if (outcome) {
         const auto size = static_cast<std::int32_t>(lumpData.size());
         directory_.Add({dirOffset_, size, NewName(lumpName)});
@@ -75,7 +75,7 @@ platform::Outcome clsWad::WriteDirectory() {
         if (chunk.size() < chunkBytes && lump < lastLump_) {
             continue;
         }
-        if (const platform::Outcome outcome = file_.WriteAt(position, chunk); !outcome) {
+        if (platform::Outcome outcome = file_.WriteAt(position, chunk); !outcome) {
             return outcome;
         }
         position += static_cast<std::int64_t>(chunk.size());
