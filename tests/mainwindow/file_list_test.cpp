@@ -48,6 +48,24 @@ TEST_F(FileListCase, AddsOneOrSeveralInTheOrderOfTheDialog) {
     EXPECT_EQ(FileList.Count(), 6) << "too long for the dialog's buffer";
 }
 
+TEST_F(FileListCase, OddNamesSurviveARestart) {
+    const Texts names = {"D:\\a  b.wad",     "D:\\q\"uote;{}.wad",   "D:\\h\xc3\xbc.wad",
+                         "D:\\\xff\xfe.wad", "D:\\new\r\nline\ttab", "D:\\|bar|.wad"};
+    StartWith(names);
+    Exit();
+    ASSERT_TRUE(Start());
+    EXPECT_EQ(driver::ShownItems(frmMain.lstFiles), names);
+    driver::Choose(frmMain.cmbEngines, 0);
+    GameWads.push_back({"g", "D:\\g.wad"});
+    frmMain.SetupLists();
+    driver::Choose(frmMain.cmbIWADs, 0);
+    driver::Click(frmMain.cmdRun);
+    for (const std::string& name : names) {
+        EXPECT_NE(memory::machine.started.at(0).parameters.find("\"" + name + "\" "),
+                  std::string::npos);
+    }
+}
+
 TEST_F(FileListCase, FiltersByTheSelectedEngine) {
     StartWith({});
     EXPECT_EQ(FileFilter(-1), "WAD files (*.wad)|*.wad|All files (*.*)|*.*");
