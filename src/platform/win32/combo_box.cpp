@@ -1,0 +1,113 @@
+// COMBOBOX: a list that drops down, without and with an edit field.
+#include "platform/win32/controls.h"
+#include "platform/win32/text.h"
+
+namespace platform {
+namespace {
+
+class NativeCombo : public NativeControl {
+  public:
+    NativeCombo(NativeWindow& parent, toolkit::ItemControl& list, DWORD style)
+        : NativeControl(parent, list, {WC_COMBOBOXW, style | CBS_HASSTRINGS | WS_VSCROLL}),
+          list_(list) {}
+
+    void Lay(const Metrics& metrics) override;
+
+  protected:
+    void OnCommand(WORD code) override;
+    void OnDraw(Aspect aspect, int row) override;
+    void OnDrawAll() override;
+
+  private:
+    toolkit::ItemControl& list_;
+};
+
+void NativeCombo::OnCommand(WORD code) {
+    if (code == CBN_SELCHANGE) {
+        list_.UserSelects(static_cast<int>(Send(CB_GETCURSEL)));
+    }
+}
+
+void NativeCombo::OnDraw(Aspect aspect, int row) {
+    switch (aspect) {
+        case Aspect::Caption:  // for this control the text of its edit field
+            break;
+        case Aspect::ItemAdded:
+            SendText(CB_INSERTSTRING, static_cast<WPARAM>(row), list_.List(row));
+            break;
+        case Aspect::ItemRemoved:
+            Send(CB_DELETESTRING, static_cast<WPARAM>(row));
+            break;
+        case Aspect::ItemsCleared:
+            Send(CB_RESETCONTENT);
+            break;
+        case Aspect::Selection:
+            Send(CB_SETCURSEL, static_cast<WPARAM>(list_.ListIndex()));
+            break;
+        default:
+            NativeControl::OnDraw(aspect, row);
+    }
+}
+
+void NativeCombo::OnDrawAll() {
+    for (int row = 0; row < list_.ListCount(); ++row) {
+        OnDraw(Aspect::ItemAdded, row);
+    }
+    OnDraw(Aspect::Selection, -1);
+}
+
+void NativeCombo::Lay(const Metrics& metrics) {
+    // The height of a combo box is that with its list; closed, its font makes it as high as it is.
+    NativeControl::Lay(metrics);
+    RECT closed = {};
+    ::GetWindowRect(Handle(), &closed);
+    constexpr int RowsShown = 12;
+    const auto row = static_cast<int>(Send(CB_GETITEMHEIGHT));
+    LayInMiddle(metrics, static_cast<int>(closed.bottom - closed.top), RowsShown * row + 2);
+    if (::GetFocus() != Handle()) {
+        Send(CB_SETEDITSEL, 0, MAKELPARAM(-1, 0));  // a resized field would show itself selected
+    }
+}
+
+class NativeEditCombo : public NativeCombo {
+  public:
+    NativeEditCombo(NativeWindow& parent, toolkit::ComboBox& box)
+        : NativeCombo(parent, box, CBS_DROPDOWN | CBS_AUTOHSCROLL), box_(box) {}
+
+  protected:
+    void OnCommand(WORD code) override {
+        if (code == CBN_EDITCHANGE) {
+            box_.UserTypes(NativeText());
+        } else {
+            NativeCombo::OnCommand(code);
+        }
+    }
+
+    void OnDraw(Aspect aspect, int row) override {
+        if (aspect == Aspect::Text) {
+            ::SetWindowTextW(Handle(), Wide(box_.Text()).c_str());
+        } else {
+            NativeCombo::OnDraw(aspect, row);
+        }
+    }
+
+    void OnDrawAll() override {
+        NativeCombo::OnDrawAll();
+        OnDraw(Aspect::Text, -1);
+    }
+
+  private:
+    toolkit::ComboBox& box_;
+};
+
+}  // namespace
+
+std::unique_ptr<NativeControl> MakeDropDownList(NativeWindow& parent, toolkit::DropDownList& list) {
+    return std::make_unique<NativeCombo>(parent, list, CBS_DROPDOWNLIST);
+}
+
+std::unique_ptr<NativeControl> MakeComboBox(NativeWindow& parent, toolkit::ComboBox& box) {
+    return std::make_unique<NativeEditCombo>(parent, box);
+}
+
+}  // namespace platform

@@ -1,0 +1,74 @@
+#include <cstddef>
+#include <utility>
+
+#include "platform/dialogs.h"
+#include "platform/win32/com.h"
+#include "platform/win32/registry.h"
+
+namespace platform {
+namespace {
+
+/// The record without the members that Windows 2000 added.
+constexpr DWORD RecordSize = offsetof(OPENFILENAMEA, lpTemplateName) + sizeof(LPCSTR);
+static_assert(sizeof(void*) != 4 || RecordSize == 76);
+
+using Dialog = BOOL(WINAPI*)(OPENFILENAMEA*);
+
+HWND HandleOf(const toolkit::Window* window) {
+    const NativeWindow* native = window != nullptr ? FindNative(*window) : nullptr;
+    return native != nullptr ? native->Handle() : nullptr;
+}
+
+/// Runs one of the two dialogs of Windows, whose records are alike.
+bool Run(Dialog dialog, OpenFileName& record) {
+    const std::string filter = record.lpstrFilter + std::string(2, '\0');
+    std::string file = record.lpstrFile;
+    file.resize(record.nMaxFile);
+    OPENFILENAMEA native = {};
+    native.lStructSize = RecordSize;
+    native.hwndOwner = HandleOf(record.hwndOwner);
+    native.hInstance = ::GetModuleHandleW(nullptr);
+    native.lpstrFilter = filter.c_str();
+    native.lpstrFile = file.data();
+    native.nMaxFile = record.nMaxFile;
+    native.lpstrInitialDir = record.lpstrInitialDir.c_str();
+    native.lpstrTitle = record.lpstrTitle.c_str();
+    native.Flags = record.Flags;
+    // A name that leaves no room for the second NUL is too long, although Windows lets it pass.
+    const bool confirmed =
+        dialog(&native) && file.find(std::string_view("\0\0", 2)) != std::string::npos;
+    if (confirmed) {
+        record.lpstrFile = std::move(file);
+    }
+    return confirmed;
+}
+
+}  // namespace
+
+bool GetOpenFileNameA(OpenFileName& record) {
+    return Run(::GetOpenFileNameA, record);
+}
+
+bool GetSaveFileNameA(OpenFileName& record) {
+    return Run(::GetSaveFileNameA, record);
+}
+
+std::string BrowseForFolderPath(const BrowseInfo& info) {
+    const ComApartment apartment;
+    BROWSEINFOA native = {};
+    native.hwndOwner = HandleOf(info.hwndOwner);
+    native.lpszTitle = info.lpszTitle.c_str();
+    native.ulFlags = BIF_RETURNONLYFSDIRS;
+    const Owned<PIDLIST_ABSOLUTE, ::CoTaskMemFree> item(::SHBrowseForFolderA(&native));
+    if (item == nullptr) {
+        return {};
+    }
+    static_assert(FolderBufferSize >= MAX_PATH);
+    std::string folder(FolderBufferSize, '\0');
+    if (!::SHGetPathFromIDListA(item.get(), folder.data())) {
+        folder.assign(FolderBufferSize, '\0');
+    }
+    return folder;
+}
+
+}  // namespace platform

@@ -1,0 +1,129 @@
+#include "platform/files.h"
+
+#include <fcntl.h>
+#include <io.h>
+
+#include <utility>
+
+#include "platform/win32/file_handles.h"
+#include "platform/win32/text.h"
+
+namespace platform {
+namespace {
+
+/// The handle behind a descriptor of the C runtime, which must not see -1.
+HANDLE Native(int descriptor) {
+    return descriptor < 0 ? INVALID_HANDLE_VALUE
+                          : reinterpret_cast<HANDLE>(_get_osfhandle(descriptor));
+}
+
+OVERLAPPED At(std::int64_t position) {
+    OVERLAPPED place = {};
+    place.Offset = static_cast<DWORD>(position);
+    place.OffsetHigh = static_cast<DWORD>(position >> 32);
+    return place;
+}
+
+/// One call of the system takes no more than a DWORD counts.
+DWORD Piece(std::size_t size) {
+    constexpr std::size_t Largest = std::size_t{1} << 30;
+    return static_cast<DWORD>(size < Largest ? size : Largest);
+}
+
+}  // namespace
+
+Outcome LastError() {
+    return {false, ErrorText(::GetLastError())};
+}
+
+Outcome OpenRegularFile(const std::string& path, DWORD access, DWORD disposition,
+                        OwnedHandle& file) {
+    constexpr DWORD ShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+    file.reset(::CreateFileW(Wide(path).c_str(), access, ShareAll, nullptr, disposition,
+                             FILE_ATTRIBUTE_NORMAL, nullptr));
+    if (file.get() == INVALID_HANDLE_VALUE) {
+        return LastError();
+    }
+    if (::GetFileType(file.get()) != FILE_TYPE_DISK) {
+        file.reset(INVALID_HANDLE_VALUE);
+        return {false, ErrorText(ERROR_INVALID_NAME)};
+    }
+    return {};
+}
+
+File File::Open(const std::string& path, Access access, Outcome* outcome) {
+    const bool toWrite = access != Access::Read;
+    OwnedHandle native;
+    const Outcome opened =
+        OpenRegularFile(path, toWrite ? GENERIC_READ | GENERIC_WRITE : GENERIC_READ,
+                        access == Access::Create ? OPEN_ALWAYS : OPEN_EXISTING, native);
+    File file;
+    if (opened) {
+        file.handle_ = _open_osfhandle(reinterpret_cast<std::intptr_t>(native.release()),
+                                       _O_BINARY | _O_NOINHERIT | (toWrite ? _O_RDWR : _O_RDONLY));
+    }
+    if (outcome != nullptr) {
+        *outcome = opened;
+    }
+    return file;
+}
+
+File::File(File&& other) noexcept : handle_(std::exchange(other.handle_, -1)) {}
+
+File& File::operator=(File&& other) noexcept {
+    std::swap(handle_, other.handle_);
+    return *this;
+}
+
+File::~File() {
+    Close();
+}
+
+void File::Close() {
+    if (IsOpen()) {
+        _close(std::exchange(handle_, -1));
+    }
+}
+
+std::size_t File::ReadAt(std::int64_t position, void* buffer, std::size_t size) const {
+    std::size_t count = 0;
+    DWORD read = 0;
+    do {
+        OVERLAPPED place = At(position + static_cast<std::int64_t>(count));
+        read = 0;
+        if (position < 0 || !::ReadFile(Native(handle_), static_cast<char*>(buffer) + count,
+                                        Piece(size - count), &read, &place)) {
+            break;
+        }
+        count += read;
+    } while (read > 0 && count < size);
+    return count;
+}
+
+Outcome File::WriteAt(std::int64_t position, std::string_view bytes) {
+    while (!bytes.empty()) {
+        OVERLAPPED place = At(position);
+        DWORD written = 0;
+        if (!::WriteFile(Native(handle_), bytes.data(), Piece(bytes.size()), &written, &place)) {
+            return LastError();
+        }
+        bytes.remove_prefix(written);
+        position += written;
+    }
+    return {};
+}
+
+Outcome File::Flush() {
+    return ::FlushFileBuffers(Native(handle_)) ? Outcome{} : LastError();
+}
+
+std::int64_t File::Size() const {
+    LARGE_INTEGER size = {};
+    return ::GetFileSizeEx(Native(handle_), &size) ? size.QuadPart : 0;
+}
+
+bool File::Seek(std::int64_t position) const {
+    return IsOpen() && _lseeki64(handle_, position, SEEK_SET) == position;
+}
+
+}  // namespace platform

@@ -1,0 +1,33 @@
+// What groups other controls: BUTTON as a group box, STATIC as a line.
+#include "platform/win32/controls.h"
+
+namespace platform {
+namespace {
+
+class NativeFrame : public NativeControl {
+  public:
+    NativeFrame(NativeWindow& parent, toolkit::Control& frame)
+        : NativeControl(parent, frame, {WC_BUTTONW, BS_GROUPBOX, WS_EX_TRANSPARENT, Face::Bold}) {}
+
+  protected:
+    std::wstring CaptionText() const override { return WithoutMnemonics(Shown().Caption()); }
+
+    LRESULT OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override {
+        // A group box lets the pointer through to the window; ours tells of it.
+        return message == WM_NCHITTEST ? HTCLIENT
+                                       : NativeControl::OnMessage(message, wParam, lParam);
+    }
+};
+
+}  // namespace
+
+std::unique_ptr<NativeControl> MakeFrame(NativeWindow& parent, toolkit::Control& frame) {
+    return std::make_unique<NativeFrame>(parent, frame);
+}
+
+std::unique_ptr<NativeControl> MakeDivider(NativeWindow& parent, toolkit::Control& divider) {
+    return std::make_unique<NativeControl>(parent, divider,
+                                           NativeClass{WC_STATICW, SS_ETCHEDHORZ | SS_NOTIFY});
+}
+
+}  // namespace platform

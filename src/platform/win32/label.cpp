@@ -1,0 +1,107 @@
+// STATIC: a label, on the window or on the title band, perhaps a link.
+#include "platform/win32/controls.h"
+#include "platform/win32/native_window.h"
+
+namespace platform {
+namespace {
+
+constexpr COLORREF OnBand = RGB(0xff, 0xff, 0xff);
+constexpr COLORREF OnBandSmall = RGB(0xf0, 0xd4, 0xc8);
+constexpr COLORREF LinkText = RGB(0x00, 0x5a, 0xb8);
+constexpr COLORREF QuietText = RGB(0x50, 0x4a, 0x46);  // 8 to 1 on the grey of a window
+
+class NativeLabel : public NativeControl {
+  public:
+    NativeLabel(NativeWindow& parent, toolkit::Label& label)
+        : NativeControl(parent, label, {WC_STATICW, StyleOf(label), 0, FaceOf(label)}),
+          label_(label) {}
+
+    HBRUSH Colours(HDC context) override;
+
+  protected:
+    void OnCommand(WORD code) override;
+    void OnDraw(Aspect aspect, int row) override;
+    LRESULT OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+
+  private:
+    static DWORD StyleOf(const toolkit::Label& label);
+    static Face FaceOf(const toolkit::Label& label);
+    bool IsOnBand() const { return label_.Has(toolkit::Title) || label_.Has(toolkit::Small); }
+
+    toolkit::Label& label_;
+};
+
+DWORD NativeLabel::StyleOf(const toolkit::Label& label) {
+    // With SS_NOTIFY the pointer over a label is not over the window beneath.
+    constexpr DWORD Common = SS_NOPREFIX | SS_NOTIFY;
+    constexpr int TwoLines = 16;
+    const bool isOneLine = label.Row().place.height < TwoLines || label.Has(toolkit::Title);
+    if (label.Has(toolkit::Sunken)) {
+        return Common | SS_SUNKEN | SS_EDITCONTROL;
+    }
+    if (label.Has(toolkit::Small)) {
+        return Common | SS_RIGHT;
+    }
+    return Common | (isOneLine ? SS_CENTERIMAGE : SS_EDITCONTROL);  // the latter breaks long words
+}
+
+Face NativeLabel::FaceOf(const toolkit::Label& label) {
+    constexpr struct {
+        toolkit::Flag flag;
+        Face face;
+    } rows[] = {
+        {toolkit::Title, Face::Title},
+        {toolkit::Small, Face::Small},
+        {toolkit::Bold, Face::Bold},
+        {toolkit::Link, Face::Link},
+    };
+    for (const auto& row : rows) {
+        if (label.Has(row.flag)) {
+            return row.face;
+        }
+    }
+    return Face::Body;
+}
+
+HBRUSH NativeLabel::Colours(HDC context) {
+    if (IsOnBand()) {
+        ::SetTextColor(context, label_.Has(toolkit::Title) ? OnBand : OnBandSmall);
+        ::SetBkMode(context, TRANSPARENT);
+        return Parent().TitleBand().Beneath(Handle(), context);
+    }
+    if (label_.Has(toolkit::Link)) {
+        ::SetTextColor(context, LinkText);
+    } else if (label_.Has(toolkit::Quiet) && ::GetSysColor(COLOR_WINDOWTEXT) == 0) {
+        ::SetTextColor(context, QuietText);
+    }
+    return nullptr;
+}
+
+void NativeLabel::OnCommand(WORD code) {
+    if (code == STN_CLICKED) {
+        label_.UserClicks();
+    }
+}
+
+void NativeLabel::OnDraw(Aspect aspect, int row) {
+    NativeControl::OnDraw(aspect, row);
+    if (aspect == Aspect::Caption && IsOnBand()) {
+        ::InvalidateRect(Handle(), nullptr, TRUE);
+    }
+}
+
+LRESULT NativeLabel::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+    if (message == WM_SETCURSOR && label_.Has(toolkit::Link)) {
+        ::SetCursor(::LoadCursorW(nullptr, IDC_HAND));
+        return TRUE;
+    }
+    return NativeControl::OnMessage(message, wParam, lParam);
+}
+
+}  // namespace
+
+std::unique_ptr<NativeControl> MakeLabel(NativeWindow& parent, toolkit::Label& label) {
+    return std::make_unique<NativeLabel>(parent, label);
+}
+
+}  // namespace platform

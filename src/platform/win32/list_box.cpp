@@ -1,0 +1,107 @@
+// LISTBOX: a list with one selected row.
+#include <algorithm>
+
+#include "platform/win32/controls.h"
+#include "platform/win32/text.h"
+
+namespace platform {
+namespace {
+
+class NativeListBox : public NativeControl {
+  public:
+    NativeListBox(NativeWindow& parent, toolkit::ListBox& list)
+        : NativeControl(
+              parent, list,
+              {WC_LISTBOXW,
+               LBS_NOTIFY | LBS_HASSTRINGS | LBS_NOINTEGRALHEIGHT | WS_VSCROLL | WS_HSCROLL,
+               WS_EX_CLIENTEDGE}),
+          list_(list) {}
+
+    void Lay(const Metrics& metrics) override;
+
+  protected:
+    void OnCommand(WORD code) override;
+    void OnDraw(Aspect aspect, int row) override;
+    void OnDrawAll() override;
+
+  private:
+    void Insert(int row);
+    void Widen(int row);
+
+    toolkit::ListBox& list_;
+    int widest_ = 0;  // pixels that the longest text takes
+};
+
+void NativeListBox::OnCommand(WORD code) {
+    // A click on the row that was selected already comes as a selection that was given up.
+    if (code == LBN_SELCHANGE || code == LBN_SELCANCEL) {
+        const auto row = static_cast<int>(Send(LB_GETCURSEL));
+        if (row >= 0) {
+            list_.UserSelects(row);
+        }
+    } else if (code == LBN_DBLCLK) {
+        list_.UserDoubleClicks();
+    }
+}
+
+void NativeListBox::OnDraw(Aspect aspect, int row) {
+    switch (aspect) {
+        case Aspect::ItemAdded:
+            Insert(row);
+            break;
+        case Aspect::ItemRemoved:
+            Send(LB_DELETESTRING, static_cast<WPARAM>(row));
+            break;
+        case Aspect::ItemsCleared:
+            Send(LB_RESETCONTENT);
+            widest_ = 0;
+            Send(LB_SETHORIZONTALEXTENT);
+            break;
+        case Aspect::Selection:
+            Send(LB_SETCURSEL, static_cast<WPARAM>(list_.ListIndex()));
+            break;
+        default:
+            NativeControl::OnDraw(aspect, row);
+    }
+}
+
+void NativeListBox::OnDrawAll() {
+    for (int row = 0; row < list_.ListCount(); ++row) {
+        Insert(row);
+    }
+    OnDraw(Aspect::Selection, -1);
+}
+
+void NativeListBox::Insert(int row) {
+    SendText(LB_INSERTSTRING, static_cast<WPARAM>(row), list_.List(row));
+    Widen(row);
+}
+
+void NativeListBox::Widen(int row) {
+    const std::wstring text = Wide(list_.List(row));
+    const WindowContext context(Handle());
+    const Chosen font(context.Get(), reinterpret_cast<HFONT>(Send(WM_GETFONT)));
+    SIZE size = {};
+    ::GetTextExtentPoint32W(context.Get(), text.data(), static_cast<int>(text.size()), &size);
+    constexpr int Margin = 8;
+    if (size.cx + Margin > widest_) {
+        widest_ = size.cx + Margin;
+        Send(LB_SETHORIZONTALEXTENT, static_cast<WPARAM>(widest_));
+    }
+}
+
+void NativeListBox::Lay(const Metrics& metrics) {
+    NativeControl::Lay(metrics);
+    widest_ = 0;
+    for (int row = 0; row < list_.ListCount(); ++row) {
+        Widen(row);
+    }
+}
+
+}  // namespace
+
+std::unique_ptr<NativeControl> MakeListBox(NativeWindow& parent, toolkit::ListBox& list) {
+    return std::make_unique<NativeListBox>(parent, list);
+}
+
+}  // namespace platform

@@ -1,0 +1,89 @@
+// A control of Windows that shows a control of the toolkit.
+#pragma once
+
+#include <string>
+
+#include "platform/desktop.h"
+#include "platform/win32/metrics.h"
+#include "toolkit/control.h"
+
+namespace platform {
+
+class NativeWindow;
+
+/// What a control is made from.
+struct NativeClass {
+    const wchar_t* name;
+    DWORD style = 0;  // beside WS_CHILD
+    DWORD extendedStyle = 0;
+    Face face = Face::Body;
+};
+
+/// Holds the native control and is what its window hands the control's messages to. Each kind of
+/// control has a class of its own in a file of its own. The window destroys the native part.
+class NativeControl {
+  public:
+    NativeControl(NativeWindow& parent, toolkit::Control& control, const NativeClass& what);
+    NativeControl(const NativeControl&) = delete;
+    NativeControl& operator=(const NativeControl&) = delete;
+    virtual ~NativeControl();
+
+    HWND Handle() const { return handle_; }
+    toolkit::Control& Shown() const { return control_; }
+
+    /// Draws one aspect anew. What the native control says meanwhile is not the user's doing.
+    void Draw(Aspect aspect, int row = -1);
+    /// Draws everything, from the state of the toolkit's control.
+    void DrawAll();
+    /// Takes its font and its place in the window.
+    virtual void Lay(const Metrics& metrics);
+
+    /// A notification of WM_COMMAND or WM_NOTIFY, passed on when the user was the cause.
+    void Command(WORD code);
+    LRESULT Notify(const NMHDR& notice);
+    /// Prepares the context for a control that is about to draw itself, and gives the brush of its
+    /// background; null leaves both as Windows has them.
+    virtual HBRUSH Colours(HDC context);
+    /// Draws a control that Windows does not.
+    virtual void DrawItem(const DRAWITEMSTRUCT& item);
+    /// Whether the Enter key presses this control when it has the focus.
+    virtual bool IsPushButton() const { return false; }
+
+  protected:
+    /// What Command and Notify stand for in this kind of control.
+    virtual void OnCommand(WORD code);
+    virtual LRESULT OnNotify(const NMHDR& notice);
+    /// Draws one aspect; those that all controls share are drawn here.
+    virtual void OnDraw(Aspect aspect, int row);
+    /// Draws what this kind holds beside the shared aspects.
+    virtual void OnDrawAll() {}
+    /// A message of the control itself.
+    virtual LRESULT OnMessage(UINT message, WPARAM wParam, LPARAM lParam);
+    /// The text that the native control has for its caption.
+    virtual std::wstring CaptionText() const;
+
+    /// Puts a control that has a height of its own into the middle of its place, with `more` pixels
+    /// below that are seen only when it drops down.
+    void LayInMiddle(const Metrics& metrics, int height, int more) const;
+    LRESULT Send(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const {
+        return ::SendMessageW(handle_, message, wParam, lParam);
+    }
+    /// Sends a message with a text.
+    LRESULT SendText(UINT message, WPARAM wParam, const std::string& text) const;
+    std::string NativeText() const;
+    NativeWindow& Parent() const { return parent_; }
+
+  private:
+    static LRESULT CALLBACK Procedure(HWND handle, UINT message, WPARAM wParam, LPARAM lParam,
+                                      UINT_PTR id, DWORD_PTR self);
+    void DrawEnabled();
+    void DrawFocus();
+
+    NativeWindow& parent_;
+    toolkit::Control& control_;
+    Face face_;
+    HWND handle_;
+    int drawing_ = 0;  // depth of nested calls of Draw
+};
+
+}  // namespace platform

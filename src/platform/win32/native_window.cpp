@@ -1,0 +1,133 @@
+#include "platform/win32/native_window.h"
+
+#include "platform/win32/control_ids.h"
+#include "platform/win32/controls.h"
+#include "platform/win32/pictures.h"
+#include "platform/win32/text.h"
+
+namespace platform {
+namespace {
+
+HWND Create(const toolkit::Window& window) {
+    const DWORD style = window.Table().dialog ? WS_POPUP | WS_CAPTION | WS_SYSMENU
+                                              : WS_CAPTION | WS_SYSMENU | WS_MINIMIZEBOX;
+    const DWORD extended = WS_EX_CONTROLPARENT | (window.Table().dialog ? WS_EX_DLGMODALFRAME : 0);
+    return ::CreateWindowExW(extended, WindowClassName, Wide(window.Caption()).c_str(),
+                             style | WS_CLIPCHILDREN, CW_USEDEFAULT, CW_USEDEFAULT, 0, 0, nullptr,
+                             nullptr, ::GetModuleHandleW(nullptr), nullptr);
+}
+
+}  // namespace
+
+void NativeWindow::RegisterWindowClass() {
+    WNDCLASSEXW description = {};
+    description.cbSize = sizeof description;
+    description.lpfnWndProc = Procedure;
+    description.hInstance = ::GetModuleHandleW(nullptr);
+    description.hIcon = ::LoadIconW(description.hInstance, ProgramIcon);
+    description.hCursor = ::LoadCursorW(nullptr, IDC_ARROW);
+    description.hbrBackground = reinterpret_cast<HBRUSH>(INT_PTR{COLOR_3DFACE + 1});
+    description.lpszClassName = WindowClassName;
+    ::RegisterClassExW(&description);
+}
+
+NativeWindow::NativeWindow(toolkit::Window& window)
+    : window_(window), handle_(Create(window)), metrics_(DensityOf(handle_)) {
+    MakeControls();
+    Lay();
+    for (const auto& control : controls_) {
+        control->DrawAll();
+    }
+    ::SetWindowLongPtrW(handle_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
+}
+
+NativeWindow::~NativeWindow() {
+    ::SetWindowLongPtrW(handle_, GWLP_USERDATA, 0);
+    controls_.clear();
+    ::DestroyWindow(handle_);
+}
+
+void NativeWindow::MakeControls() {
+    for (toolkit::Control* control : InStackingOrder(window_)) {
+        controls_.push_back(MakeControl(*this, *control));
+    }
+}
+
+void NativeWindow::Lay() {
+    const toolkit::WindowTable& table = window_.Table();
+    const RECT inside = metrics_.Pixels({0, 0, table.width, table.height});
+    // The frame takes what a first try leaves too little for the inside.
+    constexpr UINT Flags = SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE;
+    ::SetWindowPos(handle_, nullptr, 0, 0, inside.right, inside.bottom, Flags);
+    RECT got = {};
+    ::GetClientRect(handle_, &got);
+    ::SetWindowPos(handle_, nullptr, 0, 0, 2 * inside.right - got.right,
+                   2 * inside.bottom - got.bottom, Flags);
+    band_.Lay(window_, metrics_);
+    for (const auto& control : controls_) {
+        control->Lay(metrics_);
+    }
+}
+
+NativeControl* NativeWindow::Find(const toolkit::Control& control) const {
+    for (const auto& native : controls_) {
+        if (&native->Shown() == &control) {
+            return native.get();
+        }
+    }
+    return nullptr;
+}
+
+NativeControl* NativeWindow::FromHandle(HWND handle) const {
+    for (const auto& native : controls_) {
+        if (native->Handle() == handle) {
+            return native.get();
+        }
+    }
+    return nullptr;
+}
+
+NativeControl* NativeWindow::WithFlag(toolkit::Flag flag) const {
+    for (const auto& native : controls_) {
+        if (native->Shown().Has(flag)) {
+            return native.get();
+        }
+    }
+    return nullptr;
+}
+
+void NativeWindow::DrawCaption() const {
+    ::SetWindowTextW(handle_, Wide(window_.Caption()).c_str());
+}
+
+void NativeWindow::Centre() const {
+    const HWND owner = ::GetWindow(handle_, GW_OWNER);
+    MONITORINFO screen = {};
+    screen.cbSize = sizeof screen;
+    ::GetMonitorInfoW(
+        ::MonitorFromWindow(owner != nullptr ? owner : handle_, MONITOR_DEFAULTTOPRIMARY), &screen);
+    RECT frame = {};
+    ::GetWindowRect(handle_, &frame);
+    const RECT& work = screen.rcWork;
+    ::SetWindowPos(handle_, nullptr, (work.left + work.right - frame.right + frame.left) / 2,
+                   (work.top + work.bottom - frame.bottom + frame.top) / 2, 0, 0,
+                   SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+void NativeWindow::Focus(HWND control) {
+    focus_ = control;
+    if (::GetActiveWindow() == handle_) {
+        RestoreFocus();
+    }
+}
+
+void NativeWindow::RestoreFocus() {
+    const bool usable = focus_ != nullptr && ::IsWindowVisible(focus_) && ::IsWindowEnabled(focus_);
+    const HWND target = usable ? focus_ : ::GetNextDlgTabItem(handle_, nullptr, FALSE);
+    ::SetFocus(target);
+    if ((::SendMessageW(target, WM_GETDLGCODE, 0, 0) & DLGC_HASSETSEL) != 0 && !usable) {
+        ::SendMessageW(target, EM_SETSEL, 0, -1);
+    }
+}
+
+}  // namespace platform

@@ -1,0 +1,52 @@
+// STATIC drawn by us: the title band, or a picture that stands on it.
+#include <algorithm>
+
+#include "platform/win32/controls.h"
+#include "platform/win32/native_window.h"
+#include "platform/win32/pictures.h"
+
+namespace platform {
+namespace {
+
+class NativePicture : public NativeControl {
+  public:
+    NativePicture(NativeWindow& parent, toolkit::Control& picture)
+        : NativeControl(parent, picture, {WC_STATICW, SS_OWNERDRAW | SS_NOTIFY}) {}
+
+    void Lay(const Metrics& metrics) override;
+    void DrawItem(const DRAWITEMSTRUCT& item) override;
+
+  private:
+    bool IsBand() const { return Shown().Row().picture == BandPicture; }
+
+    OwnedIcon icon_;
+};
+
+void NativePicture::Lay(const Metrics& metrics) {
+    NativeControl::Lay(metrics);
+    if (!IsBand()) {
+        RECT inside = {};
+        ::GetClientRect(Handle(), &inside);
+        icon_ = LoadPicture(Shown().Row().picture,
+                            static_cast<int>(std::min(inside.right, inside.bottom)));
+    }
+}
+
+void NativePicture::DrawItem(const DRAWITEMSTRUCT& item) {
+    const RECT& place = item.rcItem;
+    const HBRUSH brush = Parent().TitleBand().Beneath(Handle(), item.hDC);
+    ::FillRect(item.hDC, &place, brush != nullptr ? brush : ::GetSysColorBrush(COLOR_3DFACE));
+    if (icon_ != nullptr) {
+        const int size = static_cast<int>(std::min(place.right, place.bottom));
+        ::DrawIconEx(item.hDC, (place.right - size) / 2, (place.bottom - size) / 2, icon_.get(),
+                     size, size, 0, nullptr, DI_NORMAL);
+    }
+}
+
+}  // namespace
+
+std::unique_ptr<NativeControl> MakePicture(NativeWindow& parent, toolkit::Control& picture) {
+    return std::make_unique<NativePicture>(parent, picture);
+}
+
+}  // namespace platform

@@ -1,0 +1,33 @@
+#include "text/file_names.h"
+
+#include "text/ascii.h"
+
+bool MatchesPattern(std::string_view name, std::string_view pattern) {
+    // After a mismatch the last `*` takes one character more.
+    std::size_t at = 0;
+    std::size_t inPattern = 0;
+    std::size_t star = std::string_view::npos;
+    std::size_t behindStar = 0;
+    while (at < name.size()) {
+        if (inPattern < pattern.size() && pattern[inPattern] == '*') {
+            star = inPattern++;
+            behindStar = at;
+        } else if (inPattern < pattern.size() &&
+                   (pattern[inPattern] == '?' ||
+                    LowerCase(pattern[inPattern]) == LowerCase(name[at]))) {
+            ++inPattern;
+            ++at;
+        } else if (star != std::string_view::npos) {
+            inPattern = star + 1;
+            at = ++behindStar;
+        } else {
+            return false;
+        }
+    }
+    return pattern.find_first_not_of('*', inPattern) == std::string_view::npos;
+}
+
+bool ListedBefore(const std::string& left, const std::string& right) {
+    const int order = UpperCase(left).compare(UpperCase(right));
+    return order != 0 ? order < 0 : left < right;
+}
