@@ -64,11 +64,10 @@ NativeWindow* NativeOf(const toolkit::Window* window) {
 }
 
 QWidget* FrontWindow() {
-    if (QWidget* modal = QApplication::activeModalWidget()) {
-        return modal;
-    }
-    if (QWidget* active = QApplication::activeWindow()) {
-        return active;
+    for (QWidget* front : {QApplication::activeModalWidget(), QApplication::activeWindow()}) {
+        if (front != nullptr && front->isVisible()) {
+            return front;
+        }
     }
     for (const auto& [window, loaded] : LoadedWindows()) {
         if (loaded.native != nullptr && loaded.native->isVisible()) {
@@ -176,12 +175,13 @@ double UnitsPerPixelY() {
 }
 
 void StartDesktop(int& argumentCount, char** arguments) {
-    static QApplication application(argumentCount, arguments);
+    // Never destroyed: a process that ends with windows open has no good moment for that.
+    auto* application = new QApplication(argumentCount, arguments);
     QApplication::setApplicationName(QStringLiteral("Zorvane"));
     QApplication::setDesktopFileName(QStringLiteral("zorvane"));
     QApplication::setWindowIcon(qt::ProgramIcon());
     QApplication::setQuitOnLastWindowClosed(false);
-    qt::ApplyLook(application);
+    qt::ApplyLook(*application);
 }
 
 void DoEvents() {

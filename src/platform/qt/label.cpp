@@ -71,7 +71,7 @@ class LabelWidget final : public QLabel, public NativeControl {
             setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
             setWordWrap(true);
             setAlignment(Qt::AlignLeft | Qt::AlignTop);
-            setContentsMargins(4, 2, 4, 2);
+            setMargin(5);
         }
         if (label_.Has(toolkit::Link)) {
             DressLink();

@@ -2,6 +2,7 @@
 
 #include <QFile>
 #include <QIcon>
+#include <QImageReader>
 #include <cmath>
 
 #include "platform/qt/look.h"
@@ -15,6 +16,13 @@ QString FileOf(const QString& name, int ratio) {
     return QStringLiteral(":/art/%1%2.png").arg(name, suffix);
 }
 
+/// Qt would load each of its format plugins just to ask whether the file is for it.
+QPixmap LoadPng(const QString& file) {
+    QImageReader reader(file, "png");
+    reader.setAutoDetectImageFormat(false);
+    return QPixmap::fromImageReader(&reader);
+}
+
 }  // namespace
 
 QPixmap LoadPicture(std::string_view name, double pixelRatio, const QPalette& palette) {
@@ -23,11 +31,14 @@ QPixmap LoadPicture(std::string_view name, double pixelRatio, const QPalette& pa
     if (IsDark(palette) && QFile::exists(FileOf(darkForm, 1))) {
         base = darkForm;
     }
+    if (!QFile::exists(FileOf(base, 1))) {
+        return {};
+    }
     int ratio = std::min(3, static_cast<int>(std::ceil(pixelRatio)));
     while (ratio > 1 && !QFile::exists(FileOf(base, ratio))) {
         --ratio;
     }
-    QPixmap picture(FileOf(base, ratio));
+    QPixmap picture = LoadPng(FileOf(base, ratio));
     picture.setDevicePixelRatio(ratio);
     return picture;
 }
@@ -35,7 +46,7 @@ QPixmap LoadPicture(std::string_view name, double pixelRatio, const QPalette& pa
 QIcon ProgramIcon() {
     QIcon icon;
     for (const int size : {16, 32, 48}) {
-        icon.addFile(QStringLiteral(":/art/icon-%1.png").arg(size), QSize(size, size));
+        icon.addPixmap(LoadPng(FileOf(QStringLiteral("icon-%1").arg(size), 1)));
     }
     return icon;
 }

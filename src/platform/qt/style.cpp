@@ -11,6 +11,8 @@ namespace platform::qt {
 namespace {
 
 constexpr double roundness = 4;
+/// Room at the left of the text in fields, beside what the plain style leaves.
+constexpr int textInset = 4;
 
 /// A rounded surface whose outline, a pixel wide, lies inside of `rect`.
 void DrawSurface(QPainter& painter, const QRect& rect, const QColor& fill, const QPen& outline,
@@ -58,10 +60,10 @@ void DrawPressable(QPainter& painter, const QStyleOption& option, bool focused) 
                 focused ? FocusPen(option) : QPen(Outline(option), 1));
 }
 
-void DrawField(QPainter& painter, const QStyleOption& option, const QColor& fill) {
+void DrawField(QPainter& painter, const QStyleOption& option, const QColor& fill, double radius) {
     const bool focused = Has(option, QStyle::State_HasFocus);
     DrawSurface(painter, option.rect, fill, focused ? FocusPen(option) : QPen(Outline(option), 1),
-                roundness - 1);
+                radius);
 }
 
 void DrawCheckMark(QPainter& painter, const QRect& box) {
@@ -100,8 +102,8 @@ void DrawArrow(QPainter& painter, const QRect& field, const QStyleOption& option
     const QPointF tip(middle.x(), middle.y() + size / 4);
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(option.palette.color(QPalette::ButtonText), 1.4, Qt::SolidLine,
-                        Qt::RoundCap, Qt::RoundJoin));
+    painter.setPen(QPen(option.palette.color(QPalette::ButtonText), 1.4, Qt::SolidLine, Qt::FlatCap,
+                        Qt::MiterJoin));
     painter.drawPolyline(
         QPolygonF{tip - QPointF(size / 2, size / 2), tip, tip + QPointF(size / 2, -size / 2)});
     painter.restore();
@@ -130,7 +132,8 @@ void Style::drawPrimitive(PrimitiveElement element, const QStyleOption* option, 
                           const QWidget* widget) const {
     const bool inCombo = widget != nullptr && qobject_cast<QComboBox*>(widget->parentWidget());
     if (element == PE_PanelButtonCommand) {
-        const bool isDefault = qstyleoption_cast<const QStyleOptionButton*>(option) != nullptr &&
+        const bool isDefault = Has(*option, State_Enabled) &&
+                               qstyleoption_cast<const QStyleOptionButton*>(option) != nullptr &&
                                static_cast<const QStyleOptionButton*>(option)->features.testFlag(
                                    QStyleOptionButton::DefaultButton);
         const bool keyFocus =
@@ -139,9 +142,10 @@ void Style::drawPrimitive(PrimitiveElement element, const QStyleOption* option, 
     } else if (element == PE_IndicatorCheckBox) {
         DrawCheckBox(*painter, *option);
     } else if (element == PE_PanelLineEdit && !inCombo) {
-        DrawField(*painter, *option, option->palette.color(QPalette::Base));
+        DrawField(*painter, *option, option->palette.color(QPalette::Base), roundness);
     } else if (element == PE_Frame && !inCombo) {
-        DrawField(*painter, *option, Qt::transparent);
+        // The content behind has square corners.
+        DrawField(*painter, *option, Qt::transparent, 1.5);
     } else if (element != PE_PanelLineEdit) {
         QProxyStyle::drawPrimitive(element, option, painter, widget);
     }
@@ -169,12 +173,41 @@ void Style::drawComplexControl(ComplexControl control, const QStyleOptionComplex
     }
 }
 
+QRect Style::subControlRect(ComplexControl control, const QStyleOptionComplex* option,
+                            SubControl part, const QWidget* widget) const {
+    if (control == CC_GroupBox) {
+        return option->rect;  // nothing is laid out in it, so its bold font is not measured
+    }
+    const QRect rect = QProxyStyle::subControlRect(control, option, part, widget);
+    const bool isText = control == CC_ComboBox && part == SC_ComboBoxEditField;
+    return isText ? rect.adjusted(textInset, 0, 0, 0) : rect;
+}
+
 int Style::pixelMetric(PixelMetric metric, const QStyleOption* option,
                        const QWidget* widget) const {
-    if (metric == PM_ButtonShiftHorizontal || metric == PM_ButtonShiftVertical) {
-        return 0;
+    switch (metric) {
+        case PM_ButtonShiftHorizontal:
+        case PM_ButtonShiftVertical:
+            return 0;
+        case PM_FocusFrameHMargin:  // beside the text of rows
+            return 6;
+        case PM_CheckBoxLabelSpacing:
+        case PM_HeaderMargin:
+            return 8;
+        default:
+            return QProxyStyle::pixelMetric(metric, option, widget);
     }
-    return QProxyStyle::pixelMetric(metric, option, widget);
+}
+
+int Style::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                     QStyleHintReturn* returned) const {
+    switch (hint) {
+        case SH_ComboBox_Popup:  // the open list stands below its field
+        case SH_DialogButtonBox_ButtonsHaveIcons:
+            return 0;
+        default:
+            return QProxyStyle::styleHint(hint, option, widget, returned);
+    }
 }
 
 }  // namespace platform::qt
