@@ -3,7 +3,8 @@ MAKEFLAGS += --no-print-directory
 INSTALL := scripts/install-packages
 SECONDS_PER_TARGET ?= 60
 
-.PHONY: help run prepare-run tour test sanitize bench fuzz windows test-windows package format lint clean
+.PHONY: help run prepare-run tour test sanitize bench fuzz windows test-windows package test-package \
+	format lint clean
 
 help:
 	@echo 'make run           build Zorvane and start it; without a display, take a tour with pictures'
@@ -15,6 +16,7 @@ help:
 	@echo 'make windows       the Windows programs and their zips, in dist/'
 	@echo 'make test-windows  the tests of the Windows build, under Wine'
 	@echo 'make package       the Debian package, in dist/'
+	@echo 'make test-package  the package, installed, started and purged on this machine'
 	@echo 'make format        bring every source into form'
 	@echo 'make lint          layers, form and clang-tidy'
 	@echo 'make clean         remove build/ and dist/'
@@ -78,6 +80,11 @@ test-windows:
 package:
 	@$(INSTALL) build desktop package
 	packaging/debian/pack
+
+test-package: package
+	@$(INSTALL) display
+	packaging/linux/check-launcher
+	packaging/debian/check
 
 format:
 	@$(INSTALL) lint
