@@ -47,7 +47,9 @@ char CharacterOf(std::string_view code) {
 class Reader {
   public:
     Reader(std::string_view text, std::size_t position)
-        : at_(text.data() + std::min(position, text.size())), end_(text.data() + text.size()) {}
+        : at_(text.data() + std::min(position, text.size())), end_(text.data() + text.size()) {
+        ReserveEntries();
+    }
 
     ConfigMapRef Read();
     const char* At() const { return at_; }
@@ -58,6 +60,7 @@ class Reader {
         std::size_t firstEntry;
     };
 
+    void ReserveEntries();
     void ReadEntries();
     void ReadValue();
     void ReadNumber();
@@ -68,6 +71,7 @@ class Reader {
     void Open();
     void Close();
 
+    std::vector<ConfigEntry> TakeEntries(std::size_t place);
     void TakeRun(Stop stop, std::string& target);
     const char* NextPresent(const char* from) const;
     void Store(ConfigValue value);
@@ -80,12 +84,24 @@ class Reader {
     std::vector<ConfigEntry> entries_;
 };
 
+/// So that the entries of a large text need not move as they become more.
+void Reader::ReserveEntries() {
+    constexpr std::size_t largeText = 1 << 20;
+    constexpr std::size_t usualEntry = 16;  // characters; strings may hold many a ";"
+    const auto size = static_cast<std::size_t>(end_ - at_);
+    if (size > largeText) {
+        const auto ends = static_cast<std::size_t>(std::count(at_, end_, ';'));
+        entries_.reserve(std::min(ends, size / usualEntry));
+    }
+}
+
 ConfigMapRef Reader::Read() {
     ReadEntries();
     while (!levels_.empty()) {
         Close();
     }
-    return std::make_shared<ConfigMap>(std::move(entries_));
+    const bool fits = entries_.size() >= entries_.capacity() / 2;
+    return std::make_shared<ConfigMap>(fits ? std::move(entries_) : TakeEntries(0));
 }
 
 void Reader::ReadEntries() {
@@ -237,13 +253,19 @@ void Reader::Open() {
 }
 
 void Reader::Close() {
-    const auto first = entries_.begin() + static_cast<std::ptrdiff_t>(levels_.back().firstEntry);
-    std::vector<ConfigEntry> own(std::make_move_iterator(first),
-                                 std::make_move_iterator(entries_.end()));
-    entries_.erase(first, entries_.end());
+    std::vector<ConfigEntry> entries = TakeEntries(levels_.back().firstEntry);
     key_ = std::move(levels_.back().key);
     levels_.pop_back();
-    Store(std::make_shared<ConfigMap>(std::move(own)));
+    Store(std::make_shared<ConfigMap>(std::move(entries)));
+}
+
+/// The entries from that place on, in no more memory than they need.
+std::vector<ConfigEntry> Reader::TakeEntries(std::size_t place) {
+    const auto first = entries_.begin() + static_cast<std::ptrdiff_t>(place);
+    std::vector<ConfigEntry> taken(std::make_move_iterator(first),
+                                   std::make_move_iterator(entries_.end()));
+    entries_.erase(first, entries_.end());
+    return taken;
 }
 
 /// Appends the plain characters from here up to the next one that means something.
