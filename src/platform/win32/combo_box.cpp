@@ -23,8 +23,13 @@ class NativeCombo : public NativeControl {
 };
 
 void NativeCombo::OnCommand(WORD code) {
-    if (code == CBN_SELCHANGE) {
-        list_.UserSelects(static_cast<int>(Send(CB_GETCURSEL)));
+    // A list that drops down selects the row of the text in the field without a word: choosing that
+    // row is no change to Windows.
+    if (code == CBN_SELCHANGE || code == CBN_SELENDOK) {
+        const auto row = static_cast<int>(Send(CB_GETCURSEL));
+        if (row != list_.ListIndex()) {
+            list_.UserSelects(row);
+        }
     }
 }
 
