@@ -8,6 +8,16 @@
 namespace platform {
 namespace {
 
+SIZE SizeOf(HICON icon) {
+    ICONINFO parts = {};
+    ::GetIconInfo(icon, &parts);
+    const OwnedBitmap mask(parts.hbmMask);
+    const OwnedBitmap colours(parts.hbmColor);
+    BITMAP facts = {};
+    ::GetObjectW(colours.get(), sizeof facts, &facts);
+    return {facts.bmWidth, facts.bmHeight};
+}
+
 class NativePicture : public NativeControl {
   public:
     NativePicture(NativeWindow& parent, toolkit::Control& picture)
@@ -37,9 +47,9 @@ void NativePicture::DrawItem(const DRAWITEMSTRUCT& item) {
     const HBRUSH brush = Parent().TitleBand().Beneath(Handle(), item.hDC);
     ::FillRect(item.hDC, &place, brush != nullptr ? brush : ::GetSysColorBrush(COLOR_3DFACE));
     if (icon_ != nullptr) {
-        const int size = static_cast<int>(std::min(place.right, place.bottom));
-        ::DrawIconEx(item.hDC, (place.right - size) / 2, (place.bottom - size) / 2, icon_.get(),
-                     size, size, 0, nullptr, DI_NORMAL);
+        const SIZE size = SizeOf(icon_.get());
+        ::DrawIconEx(item.hDC, (place.right - size.cx) / 2, (place.bottom - size.cy) / 2,
+                     icon_.get(), 0, 0, 0, nullptr, DI_NORMAL);
     }
 }
 
