@@ -60,7 +60,7 @@ bench:
 fuzz:
 	@$(INSTALL) build fuzz
 	cmake --preset fuzz
-	cmake --build build/fuzz
+	cmake --build build/fuzz --target fuzz/all
 	@scripts/run-fuzz build/fuzz $(SECONDS_PER_TARGET)
 
 windows:
