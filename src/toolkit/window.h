@@ -32,7 +32,7 @@ enum Flag : unsigned {
     Sunken = 1U << 7,    // a label with a border, broken into lines
     Quiet = 1U << 8,     // a label in a weaker colour
     IsPath = 1U << 9,    // a text box that holds a path, shown as the system writes paths
-    Follows = 1U << 10,  // a label that begins right behind the text of the label in the row before
+    Follows = 1U << 10,  // a label as wide as its text, right behind the text of the row before
 };
 
 /// One control of a window, as data.

@@ -104,8 +104,20 @@ void NativeWindow::PlaceControls() {
     const UnitSize unit = UnitsOf(font());
     const toolkit::WindowTable& table = window_.Table();
     setFixedSize(InPixels({0, 0, table.width, table.height}, unit).size());
-    for (const auto& [control, native] : natives_) {
-        native->Widget().setGeometry(InPixels(control->Row().place, unit));
+    QRect before;
+    for (const toolkit::ControlRow& row : table.rows) {
+        const toolkit::Control* control = window_.Find(row.name);
+        if (control == nullptr) {
+            continue;
+        }
+        QWidget& widget = Find(*control).Widget();
+        QRect place = InPixels(row.place, unit);
+        if (control->Has(toolkit::Follows)) {
+            place.moveLeft(before.right() + 1);
+            place.setWidth(widget.sizeHint().width());
+        }
+        widget.setGeometry(place);
+        before = QRect(place.topLeft(), widget.sizeHint());
     }
 }
 
