@@ -66,15 +66,15 @@ fuzz:
 windows:
 	@$(INSTALL) build windows wine
 	cmake --preset win64
-	cmake --build build/win64
+	cmake --build build/win64 --target zorvane
 	cmake --preset win32
-	cmake --build build/win32
+	cmake --build build/win32 --target zorvane
 	packaging/windows/pack
 
 test-windows:
 	@$(INSTALL) build windows wine display
 	cmake --preset win64
-	cmake --build build/win64
+	cmake --build build/win64 --target zorvane
 	@WINEPREFIX=$(CURDIR)/build/wine WINEDEBUG=-all scripts/run-tests build/win64
 
 package:
