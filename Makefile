@@ -64,17 +64,17 @@ fuzz:
 	@scripts/run-fuzz build/fuzz $(SECONDS_PER_TARGET)
 
 windows:
-	@$(INSTALL) build windows wine
-	cmake --preset win64
+	@$(INSTALL) build windows
+	cmake --preset win64 -DZORVANE_TESTS=OFF
 	cmake --build build/win64 --target zorvane
-	cmake --preset win32
+	cmake --preset win32 -DZORVANE_TESTS=OFF
 	cmake --build build/win32 --target zorvane
 	packaging/windows/pack
 
 test-windows:
 	@$(INSTALL) build windows wine display
-	cmake --preset win64
-	cmake --build build/win64 --target zorvane
+	cmake --preset win64 -DZORVANE_TESTS=ON
+	cmake --build build/win64
 	@WINEPREFIX=$(CURDIR)/build/wine WINEDEBUG=-all scripts/run-tests build/win64
 
 package:
