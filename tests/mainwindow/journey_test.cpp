@@ -4,16 +4,10 @@
 #include "session.h"
 #include "setup/engine_settings.h"
 #include "setup/setup.h"
-#include "text/ascii.h"
 
 namespace {
 
-class Journey : public Session {
-  protected:
-    std::string Stored(std::string_view name) const {
-        return ReplaceAll(folder.Path(name), "\\", "\\\\");
-    }
-};
+class Journey : public Session {};
 
 TEST_F(Journey, FromNothingToTheSecondRun) {
     DefineEngine("Sample Engine");

@@ -11,20 +11,16 @@ class Maps : public Session {
   protected:
     Maps() {
         DefineEngine("Alpha");
-        Texts many;
-        for (int i = 1; i <= 36; ++i) {
-            many.push_back((i < 10 ? "MAP0" : "MAP") + std::to_string(i));
-        }
-        Add("many", MapWad("IWAD", many));
+        Add("many", MapWad("IWAD", NumberedMaps(36)));
         Add("few", MapWad("IWAD", {"MAP02", "MAP01", "map03"}));
         Add("none", "no WAD at all");
         std::filesystem::create_directory(folder.Native("folder"));
-        stored += "3 = \"folder|" + ReplaceAll(folder.Path("folder"), "\\", "\\\\") + "\";";
+        stored += "3 = \"folder|" + Stored("folder") + "\";";
         WriteSettings("engine = 0; iwad = 0; map = 30; skill = 2; iwads {" + stored + "}");
     }
     void Add(const std::string& name, const std::string& bytes) {
-        stored += "x" + name + " = \"" + name + "|" +
-                  ReplaceAll(folder.Write(name + ".wad", bytes), "\\", "\\\\") + "\";";
+        folder.Write(name + ".wad", bytes);
+        stored += "x" + name + " = \"" + name + "|" + Stored(name + ".wad") + "\";";
     }
     /// Makes a patch WAD the selected additional file and asks for its first map.
     std::string UseFirstMapOf(const std::string& bytes) {

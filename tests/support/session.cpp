@@ -6,6 +6,7 @@
 #include "mainwindow/main_window.h"
 #include "state/records.h"
 #include "state/startup.h"
+#include "text/ascii.h"
 
 namespace {
 
@@ -30,15 +31,20 @@ std::string WadBytes(std::string_view tag, const std::vector<std::string>& lumps
     return bytes;
 }
 
+std::vector<std::string> NumberedMaps(int count) {
+    std::vector<std::string> maps;
+    for (int i = 1; i <= count; ++i) {
+        maps.push_back((i < 10 ? "MAP0" : "MAP") + std::to_string(i));
+    }
+    return maps;
+}
+
 std::string MapWad(std::string_view tag, const std::vector<std::string>& maps) {
     std::vector<std::string> lumps;
     for (const std::string& map : maps) {
-        for (const std::string& lump :
-             {map, std::string("THINGS"), std::string("LINEDEFS"), std::string("SIDEDEFS"),
-              std::string("VERTEXES"), std::string("SEGS"), std::string("SSECTORS"),
-              std::string("NODES"), std::string("SECTORS"), std::string("REJECT"),
-              std::string("BLOCKMAP")}) {
-            lumps.push_back(lump);
+        for (const char* lump : {map.c_str(), "THINGS", "LINEDEFS", "SIDEDEFS", "VERTEXES", "SEGS",
+                                 "SSECTORS", "NODES", "SECTORS", "REJECT", "BLOCKMAP"}) {
+            lumps.emplace_back(lump);
         }
     }
     return WadBytes(tag, lumps);
@@ -65,6 +71,10 @@ void Session::DefineEngine(const std::string& name, int switches) {
     }
     folder.Write("engines/" + name + ".cfg",
                  text + "} filetypes { wad = \"WAD files\"; deh = \"Patches\"; }");
+}
+
+std::string Session::Stored(std::string_view name) const {
+    return ReplaceAll(folder.Path(name), "\\", "\\\\");
 }
 
 void Session::WriteSettings(std::string_view lines) {

@@ -13,6 +13,8 @@
 
 /// One lump of a WAD to be made: only its name matters.
 std::string WadBytes(std::string_view tag, const std::vector<std::string>& lumps);
+/// MAP01 up to that number.
+std::vector<std::string> NumberedMaps(int count);
 /// A WAD of maps, each with its ten lumps of data.
 std::string MapWad(std::string_view tag, const std::vector<std::string>& maps);
 
@@ -23,6 +25,8 @@ class Session : public testing::Test {
 
     /// Adds a definition file for an engine of that name, with `switches` numbered from 1.
     void DefineEngine(const std::string& name, int switches = 3);
+    /// The path of a thing in the folder, as it stands between the quotes of a settings file.
+    std::string Stored(std::string_view name) const;
     /// Writes a settings file of the right type with the given lines behind the type.
     void WriteSettings(std::string_view lines);
     std::string SettingsBytes() const { return folder.Read("zorvane.cfg"); }
