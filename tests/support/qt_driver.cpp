@@ -38,14 +38,15 @@ QPoint InWindow(const QWidget& widget, QPoint point) {
     return widget.mapTo(widget.window(), point);
 }
 
-QPoint MiddleOfRow(const QAbstractItemView& view, int row) {
+QPoint MiddleOfRow(QAbstractItemView& view, int row) {
     const QModelIndex index = view.model()->index(row, 0);
+    view.scrollTo(index);
     return InWindow(*view.viewport(), view.visualRect(index).center());
 }
 
 /// Over a list its row, over anything else near its left end, where a check box can be pressed.
 QPoint PointOf(const toolkit::Control& control, int row = 0) {
-    if (const auto* view = As<QAbstractItemView>(control)) {
+    if (auto* view = As<QAbstractItemView>(control)) {
         return MiddleOfRow(*view, row);
     }
     const QWidget& widget = WidgetOf(control);
