@@ -35,7 +35,7 @@ tour: prepare-run
 	@$(INSTALL) test display
 	cmake --preset release -DZORVANE_TESTS=ON
 	cmake --build build/release --target zorvane_tour
-	scripts/run-tour build/release build/run build/tour
+	scripts/run-tour build/release/tests/e2e/zorvane_tour build/tour
 
 test:
 	@$(INSTALL) build desktop engines test display
