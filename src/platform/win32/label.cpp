@@ -10,12 +10,43 @@ constexpr COLORREF OnBandSmall = RGB(0xf0, 0xd4, 0xc8);
 constexpr COLORREF LinkText = RGB(0x00, 0x5a, 0xb8);
 constexpr COLORREF QuietText = RGB(0x50, 0x4a, 0x46);  // 8 to 1 on the grey of a window
 
+Face FaceOf(const toolkit::ControlRow& row) {
+    constexpr struct {
+        toolkit::Flag flag;
+        Face face;
+    } faces[] = {
+        {toolkit::Title, Face::Title},
+        {toolkit::Small, Face::Small},
+        {toolkit::Bold, Face::Bold},
+        {toolkit::Link, Face::Link},
+    };
+    for (const auto& [flag, face] : faces) {
+        if ((row.flags & flag) != 0) {
+            return face;
+        }
+    }
+    return Face::Body;
+}
+
+/// Where the text of a label begins across; one that follows another begins behind that one's text.
+int TextStart(const toolkit::Control& label, const Metrics& metrics) {
+    if (label.Has(toolkit::Follows)) {
+        const toolkit::ControlRow& before = *(&label.Row() - 1);
+        if (const toolkit::Control* followed = label.Owner().Find(before.name)) {
+            return TextStart(*followed, metrics) +
+                   metrics.TextWidth(FaceOf(before), followed->Caption());
+        }
+    }
+    return static_cast<int>(metrics.Pixels(label.Row().place).left);
+}
+
 class NativeLabel : public NativeControl {
   public:
     NativeLabel(NativeWindow& parent, toolkit::Label& label)
-        : NativeControl(parent, label, {WC_STATICW, StyleOf(label), 0, FaceOf(label)}),
+        : NativeControl(parent, label, {WC_STATICW, StyleOf(label), 0, FaceOf(label.Row())}),
           label_(label) {}
 
+    void Lay(const Metrics& metrics) override;
     HBRUSH Colours(HDC context) override;
 
   protected:
@@ -25,7 +56,6 @@ class NativeLabel : public NativeControl {
 
   private:
     static DWORD StyleOf(const toolkit::Label& label);
-    static Face FaceOf(const toolkit::Label& label);
     bool IsOnBand() const { return label_.Has(toolkit::Title) || label_.Has(toolkit::Small); }
 
     toolkit::Label& label_;
@@ -45,22 +75,14 @@ DWORD NativeLabel::StyleOf(const toolkit::Label& label) {
     return Common | (isOneLine ? SS_CENTERIMAGE : SS_EDITCONTROL);  // the latter breaks long words
 }
 
-Face NativeLabel::FaceOf(const toolkit::Label& label) {
-    constexpr struct {
-        toolkit::Flag flag;
-        Face face;
-    } rows[] = {
-        {toolkit::Title, Face::Title},
-        {toolkit::Small, Face::Small},
-        {toolkit::Bold, Face::Bold},
-        {toolkit::Link, Face::Link},
-    };
-    for (const auto& row : rows) {
-        if (label.Has(row.flag)) {
-            return row.face;
-        }
+void NativeLabel::Lay(const Metrics& metrics) {
+    NativeControl::Lay(metrics);
+    if (label_.Has(toolkit::Follows) || label_.Has(toolkit::Link)) {
+        const RECT place = metrics.Pixels(label_.Row().place);
+        ::SetWindowPos(Handle(), nullptr, TextStart(label_, metrics), place.top,
+                       metrics.TextWidth(FaceOf(label_.Row()), label_.Caption()),
+                       place.bottom - place.top, SWP_NOZORDER | SWP_NOACTIVATE);
     }
-    return Face::Body;
 }
 
 HBRUSH NativeLabel::Colours(HDC context) {

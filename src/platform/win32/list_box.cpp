@@ -1,8 +1,6 @@
 // LISTBOX: a list with one selected row.
-#include <algorithm>
-
 #include "platform/win32/controls.h"
-#include "platform/win32/text.h"
+#include "platform/win32/native_window.h"
 
 namespace platform {
 namespace {
@@ -78,14 +76,10 @@ void NativeListBox::Insert(int row) {
 }
 
 void NativeListBox::Widen(int row) {
-    const std::wstring text = Wide(list_.List(row));
-    const WindowContext context(Handle());
-    const Chosen font(context.Get(), reinterpret_cast<HFONT>(Send(WM_GETFONT)));
-    SIZE size = {};
-    ::GetTextExtentPoint32W(context.Get(), text.data(), static_cast<int>(text.size()), &size);
+    const int width = Parent().Sizes().TextWidth(Face::Body, list_.List(row));
     constexpr int Margin = 8;
-    if (size.cx + Margin > widest_) {
-        widest_ = size.cx + Margin;
+    if (width + Margin > widest_) {
+        widest_ = width + Margin;
         Send(LB_SETHORIZONTALEXTENT, static_cast<WPARAM>(widest_));
     }
 }

@@ -1,5 +1,7 @@
 #include "platform/win32/metrics.h"
 
+#include "platform/win32/text.h"
+
 namespace platform {
 namespace {
 
@@ -64,6 +66,15 @@ void Metrics::Measure() {
     ::GetTextExtentPoint32W(screen.Get(), letters.data(), count, &size);
     characterWidth_ = (size.cx + count / 2) / count;
     characterHeight_ = size.cy;
+}
+
+int Metrics::TextWidth(Face face, const std::string& text) const {
+    const std::wstring wide = Wide(text);
+    const WindowContext screen(nullptr);
+    const Chosen font(screen.Get(), Font(face));
+    SIZE size = {};
+    ::GetTextExtentPoint32W(screen.Get(), wide.data(), static_cast<int>(wide.size()), &size);
+    return size.cx;
 }
 
 RECT Metrics::Pixels(const toolkit::Place& place) const {

@@ -1,6 +1,8 @@
 // Sizes and fonts of a window at the density of its screen.
 #pragma once
 
+#include <string>
+
 #include "platform/win32/handles.h"
 #include "toolkit/window.h"
 
@@ -20,6 +22,8 @@ class Metrics {
     HFONT Font(Face face) const { return fonts_[static_cast<int>(face)].get(); }
     /// Dialog units as pixels.
     RECT Pixels(const toolkit::Place& place) const;
+    /// Pixels that a text takes across.
+    int TextWidth(Face face, const std::string& text) const;
     /// Height of a field that holds a line of text, with its border.
     int FieldHeight() const { return characterHeight_ + Scaled(8); }
     /// Pixels of a screen of 96 dots per inch as pixels of this one.

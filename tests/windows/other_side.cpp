@@ -1,0 +1,32 @@
+// other_side FOLDER: what the program of this system makes of a program directory: starts on it, in
+// memory, presses Run, prints the command line that the engine would receive, and ends by Exit,
+// which saves the settings.
+#include <iostream>
+
+#include "driver.h"
+#include "mainwindow/application.h"
+#include "mainwindow/main_window.h"
+#include "memory.h"
+#include "state/startup.h"
+
+int main(int argumentCount, char** arguments) {
+    if (argumentCount != 2) {
+        std::cerr << "usage: other_side FOLDER\n";
+        return 2;
+    }
+    memory::machine.programDirectory = arguments[1];
+    TieApplication();
+    Main();
+    driver::Click(frmMain.cmdRun);
+    if (memory::machine.started.size() != 1) {
+        std::cerr << "no engine was started\n";
+        return 1;
+    }
+    std::cout << memory::machine.started.front().parameters << '\n';
+    try {
+        driver::Click(frmMain.cmdExit);
+    } catch (const memory::ProcessEnded&) {
+        return 0;
+    }
+    return 1;
+}
