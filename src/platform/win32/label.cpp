@@ -40,6 +40,16 @@ int TextStart(const toolkit::Control& label, const Metrics& metrics) {
     return static_cast<int>(metrics.Pixels(label.Row().place).left);
 }
 
+/// Whether a label is as wide as its text, so that others can stand beside it and only the text of
+/// a link is a link.
+bool FitsItsText(const toolkit::Control& label) {
+    const toolkit::ControlRow* next = &label.Row() + 1;
+    const auto rows = label.Owner().Table().rows;
+    const bool isFollowed =
+        next != rows.data() + rows.size() && (next->flags & toolkit::Follows) != 0;
+    return isFollowed || label.Has(toolkit::Follows) || label.Has(toolkit::Link);
+}
+
 class NativeLabel : public NativeControl {
   public:
     NativeLabel(NativeWindow& parent, toolkit::Label& label)
@@ -77,7 +87,7 @@ DWORD NativeLabel::StyleOf(const toolkit::Label& label) {
 
 void NativeLabel::Lay(const Metrics& metrics) {
     NativeControl::Lay(metrics);
-    if (label_.Has(toolkit::Follows) || label_.Has(toolkit::Link)) {
+    if (FitsItsText(label_)) {
         const RECT place = metrics.Pixels(label_.Row().place);
         ::SetWindowPos(Handle(), nullptr, TextStart(label_, metrics), place.top,
                        metrics.TextWidth(FaceOf(label_.Row()), label_.Caption()),
