@@ -16,7 +16,7 @@ constexpr const char* BoxNames[OptionCount] = {
 
 /// Two columns of boxes, each from top to bottom, and the controls around them.
 constexpr auto MakeRows() {
-    constexpr int OtherRows = 4;
+    constexpr std::size_t OtherRows = 4;
     // clang-format off
     std::array<ControlRow, OptionCount + OtherRows> rows{{
         {.name = "Frame1", .caption = "Options", .place = {9, 8, 340, 122}, .tab = 18},
@@ -30,7 +30,7 @@ constexpr auto MakeRows() {
     // clang-format on
     for (int i = 0; i < OptionCount; ++i) {
         const Place place{19 + i / BoxesInColumn * 164, 22 + i % BoxesInColumn * 13, 158, 10};
-        rows[static_cast<std::size_t>(i + OtherRows)] = {
+        rows.at(static_cast<std::size_t>(i) + OtherRows) = {
             .name = BoxNames[i], .place = place, .tab = i};
     }
     return rows;

@@ -63,7 +63,8 @@ void ScanEngineFiles(const std::string& directory) {
         platform::ShowMessage(NoEngineFiles, ProgramTitle, platform::MessageIcon::Critical);
         ShutDown();
     }
+    const std::string prefix = directory + "\\";
     for (const std::string& name : names) {
-        ReadEngineFile(directory + "\\" + name);
+        ReadEngineFile(prefix + name);
     }
 }

@@ -1,6 +1,6 @@
 #include "state/startup.h"
 
-#include <ranges>
+#include <algorithm>
 
 #include "platform/dialogs.h"
 #include "platform/facts.h"
@@ -59,8 +59,7 @@ void ShutDown() {
     if (settingsAreOurs) {
         TellUnsaved(SaveSettings());
     }
-    for (toolkit::Window* window : std::views::reverse(TheApplication.windows)) {
-        window->Unload();
-    }
+    std::for_each(TheApplication.windows.rbegin(), TheApplication.windows.rend(),
+                  [](toolkit::Window* window) { window->Unload(); });
     platform::EndProcess();
 }

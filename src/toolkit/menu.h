@@ -16,6 +16,7 @@ class MenuItem {
     MenuItem(PopupMenu& menu, std::string caption);
     MenuItem(const MenuItem&) = delete;
     MenuItem& operator=(const MenuItem&) = delete;
+    ~MenuItem() = default;
 
     const std::string& Caption() const { return caption_; }
     bool Enabled() const { return enabled_; }
@@ -35,6 +36,7 @@ class PopupMenu {
     explicit PopupMenu(std::string caption) : caption_(std::move(caption)) {}
     PopupMenu(const PopupMenu&) = delete;
     PopupMenu& operator=(const PopupMenu&) = delete;
+    ~PopupMenu() = default;
 
     const std::string& Caption() const { return caption_; }
     const std::vector<MenuItem*>& Items() const { return items_; }

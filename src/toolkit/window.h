@@ -64,6 +64,7 @@ class Window {
     explicit Window(const WindowTable& table) : table_(table), caption_(table.caption) {}
     Window(const Window&) = delete;
     Window& operator=(const Window&) = delete;
+    ~Window() = default;
 
     /// Takes the state of the table, makes the native window, hidden, and runs OnLoad.
     void Load();

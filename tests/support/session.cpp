@@ -1,6 +1,6 @@
 #include "session.h"
 
-#include <ranges>
+#include <algorithm>
 
 #include "mainwindow/application.h"
 #include "mainwindow/main_window.h"
@@ -16,6 +16,11 @@ std::string Number(std::uint32_t value) {
         bytes += static_cast<char>(value >> shift & 0xff);
     }
     return bytes;
+}
+
+void UnloadWindows() {
+    std::for_each(TheApplication.windows.rbegin(), TheApplication.windows.rend(),
+                  [](toolkit::Window* window) { window->Unload(); });
 }
 
 }  // namespace
@@ -56,9 +61,7 @@ Session::Session() {
 }
 
 Session::~Session() {
-    for (toolkit::Window* window : std::views::reverse(TheApplication.windows)) {
-        window->Unload();
-    }
+    UnloadWindows();
     ResetState();
     memory::Reset();
 }
@@ -82,9 +85,7 @@ void Session::WriteSettings(std::string_view lines) {
 }
 
 bool Session::Start() {
-    for (toolkit::Window* window : std::views::reverse(TheApplication.windows)) {
-        window->Unload();
-    }
+    UnloadWindows();
     ResetState();
     TieApplication();
     return !Ends([] { Main(); });
