@@ -144,6 +144,7 @@ void UseFirstMap() {
     driver::DoubleClick(frmMain.lstFiles, 0);
     Choose(frmMain.cmbIWADs, "Freedoom: Phase 1");
     auto* maps = Front().findChild<QComboBox*>("cmbMaps");
+    Check(maps != nullptr, "the main window in front");
     maps->showPopup();
     Picture("maps");
     maps->hidePopup();
