@@ -176,12 +176,12 @@ double UnitsPerPixelY() {
 
 void StartDesktop(int& argumentCount, char** arguments) {
     // Never destroyed: a process that ends with windows open has no good moment for that.
-    auto* application = new QApplication(argumentCount, arguments);
+    new QApplication(argumentCount, arguments);
     QApplication::setApplicationName(QStringLiteral("Zorvane"));
     QApplication::setDesktopFileName(QStringLiteral("zorvane"));
     QApplication::setWindowIcon(qt::ProgramIcon());
     QApplication::setQuitOnLastWindowClosed(false);
-    qt::ApplyLook(*application);
+    qt::ApplyLook();
 }
 
 void DoEvents() {

@@ -65,11 +65,11 @@ QFont Scaled(QFont font, double factor) {
     return font;
 }
 
-void ApplyLook(QApplication& application) {
+void ApplyLook() {
     if (QApplication::style()->name() != QLatin1String("fusion")) {
         return;
     }
-    QApplication::setPalette(WarmPalette(QApplication::palette(), IsDark(application.palette())));
+    QApplication::setPalette(WarmPalette(QApplication::palette(), IsDark(QApplication::palette())));
     QApplication::setStyle(new Style);
 }
 

@@ -5,16 +5,14 @@
 #include <QFont>
 #include <QPalette>
 
-class QApplication;
-
 namespace platform::qt {
 
 /// The colour of the program: its main button, a checked box, what has the focus.
 inline constexpr QColor accent(0xB3, 0x36, 0x1B);
 
-/// Dresses the program. A desktop with a style of its own keeps that; the plain one gets our style
-/// and a warm palette, light or dark as the desktop is.
-void ApplyLook(QApplication& application);
+/// Dresses the program, once it has its QApplication. A desktop with a style of its own keeps that;
+/// the plain one gets our style and a warm palette, light or dark as the desktop is.
+void ApplyLook();
 
 bool IsDark(const QPalette& palette);
 
