@@ -36,12 +36,12 @@ toolkit::Button* ButtonWith(const toolkit::Window& window, toolkit::Flag flag) {
 
 /// The control behind `tab` in the tab order, or the first one.
 const toolkit::Control* NextInTabOrder(const toolkit::Window& window, int tab) {
+    using toolkit::Kind;
     const toolkit::Control* next = nullptr;
     for (const toolkit::Control* control : window.Controls()) {
-        const toolkit::Kind kind = control->GetKind();
         const bool takesFocus = control->Row().tab > tab && control->Enabled() &&
-                                control->Visible() && kind != toolkit::Kind::Label &&
-                                kind != toolkit::Kind::Frame;
+                                control->Visible() && control->GetKind() != Kind::Label &&
+                                control->GetKind() != Kind::Frame;
         if (takesFocus && (next == nullptr || control->Row().tab < next->Row().tab)) {
             next = control;
         }
