@@ -104,7 +104,7 @@ void NativeWindow::PlaceControls() {
     const UnitSize unit = UnitsOf(font());
     const toolkit::WindowTable& table = window_.Table();
     setFixedSize(InPixels({0, 0, table.width, table.height}, unit).size());
-    QRect before;
+    const QWidget* before = nullptr;
     for (const toolkit::ControlRow& row : table.rows) {
         const toolkit::Control* control = window_.Find(row.name);
         if (control == nullptr) {
@@ -112,12 +112,13 @@ void NativeWindow::PlaceControls() {
         }
         QWidget& widget = Find(*control).Widget();
         QRect place = InPixels(row.place, unit);
-        if (control->Has(toolkit::Follows)) {
-            place.moveLeft(before.right() + 1);
+        if (control->Has(toolkit::Follows) && before != nullptr) {
+            // Only here is a text measured: it costs a good part of the start.
+            place.moveLeft(before->x() + before->sizeHint().width());
             place.setWidth(widget.sizeHint().width());
         }
         widget.setGeometry(place);
-        before = QRect(place.topLeft(), widget.sizeHint());
+        before = &widget;
     }
 }
 
