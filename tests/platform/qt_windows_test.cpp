@@ -35,10 +35,18 @@ constexpr toolkit::ControlRow Rows[] = {
     {.name = "lstMany", .place = {4, 24, 100, 60}, .tab = 0},
     {.name = "txtFile", .place = {4, 90, 100, 14}, .tab = 1, .flags = toolkit::IsPath},
     {.name = "txtFree", .place = {4, 110, 100, 14}, .tab = 2},
+    {.name = "cmbFree", .place = {110, 4, 60, 14}, .tab = 4},
+    {.name = "cmbFixed", .place = {110, 24, 60, 14}, .tab = 5},
+    {.name = "lvwTwo", .caption = "A|B", .place = {110, 44, 60, 40}, .tab = 6},
+    {.name = "chkBox", .caption = "Box", .place = {110, 90, 60, 10}, .tab = 7},
+    {.name = "cmdOK", .caption = "OK", .place = {110, 110, 40, 14}, .tab = 8,
+     .flags = toolkit::Default},
+    {.name = "cmdStop", .caption = "Stop", .place = {110, 130, 40, 14}, .tab = 9,
+     .flags = toolkit::Cancel},
     {.name = "cmdFind", .place = {4, 130, 20, 14}, .tab = 3, .picture = "map", .spoken = "Find"},
 };
 constexpr toolkit::WindowTable FormTable = {
-    .name = "frmTest", .caption = "Test", .width = 120, .height = 160, .rows = Rows};
+    .name = "frmTest", .caption = "Test", .width = 180, .height = 160, .rows = Rows};
 // clang-format on
 
 struct Form : toolkit::Window {
@@ -52,6 +60,12 @@ struct Form : toolkit::Window {
     toolkit::ListBox lstMany{*this, "lstMany"};
     toolkit::TextBox txtFile{*this, "txtFile"};
     toolkit::TextBox txtFree{*this, "txtFree"};
+    toolkit::ComboBox cmbFree{*this, "cmbFree"};
+    toolkit::DropDownList cmbFixed{*this, "cmbFixed"};
+    toolkit::ListView lvwTwo{*this, "lvwTwo"};
+    toolkit::CheckBox chkBox{*this, "chkBox"};
+    toolkit::Button cmdOK{*this, "cmdOK"};
+    toolkit::Button cmdStop{*this, "cmdStop"};
     toolkit::Button cmdFind{*this, "cmdFind"};
 };
 
@@ -112,6 +126,46 @@ TEST(QtWindow, AFurtherClickOnARowIsAChoiceToo) {
     EXPECT_EQ(driver::ShownIndex(form.lstMany), 1);
     QTest::keyClick(&form.WidgetOf(form.lstMany), Qt::Key_Up);
     EXPECT_EQ(form.lstMany.ListIndex(), 0);
+}
+
+TEST(QtWindow, EnterAndEscapeReachTheirButtonsFromEverywhere) {
+    Form form;
+    form.Show();
+    for (toolkit::ItemControl* list : {static_cast<toolkit::ItemControl*>(&form.lstMany),
+                                       static_cast<toolkit::ItemControl*>(&form.cmbFree),
+                                       static_cast<toolkit::ItemControl*>(&form.cmbFixed)}) {
+        list->AddItem("a");
+        list->SetListIndex(0);
+    }
+    form.lvwTwo.AddRow("a", "b");
+    std::string pressed;
+    form.cmdOK.OnClick = [&] { pressed += "ok "; };
+    form.cmdStop.OnClick = [&] { pressed += "stop "; };
+    for (toolkit::Control* control : {static_cast<toolkit::Control*>(&form.lstMany),
+                                      static_cast<toolkit::Control*>(&form.txtFree),
+                                      static_cast<toolkit::Control*>(&form.cmbFree),
+                                      static_cast<toolkit::Control*>(&form.cmbFixed),
+                                      static_cast<toolkit::Control*>(&form.lvwTwo),
+                                      static_cast<toolkit::Control*>(&form.chkBox)}) {
+        control->SetFocus();
+        driver::PressEnter(form);
+        driver::PressEscape(form);
+        EXPECT_EQ(std::exchange(pressed, ""), "ok stop ") << control->Row().name;
+    }
+}
+
+TEST(QtWindow, ATypedMapNameStaysTyped) {
+    Form form;
+    form.Show();
+    form.cmbFree.AddItem("E1M1");
+    int chosen = 0;
+    form.cmbFree.OnClick = [&] { ++chosen; };
+    driver::Type(form.cmbFree, "E1M1");
+    form.txtFree.SetFocus();
+    EXPECT_EQ(form.cmbFree.ListIndex(), -1);
+    EXPECT_EQ(chosen, 0) << "leaving the field chooses nothing";
+    driver::Choose(form.cmbFree, 0);
+    EXPECT_EQ(chosen, 1);
 }
 
 TEST(QtWindow, FillsALargeListQuickly) {
