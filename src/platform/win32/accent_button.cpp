@@ -29,10 +29,12 @@ class AccentButton : public NativeControl {
     void DrawItem(const DRAWITEMSTRUCT& item) override;
 
   protected:
+    void OnCreated() override;
     void OnCommand(WORD code) override;
-    LRESULT OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
 
   private:
+    static LRESULT CALLBACK Procedure(HWND handle, UINT message, WPARAM wParam, LPARAM lParam,
+                                      UINT_PTR id, DWORD_PTR self);
     COLORREF Surface(UINT state) const;
     void SetHot(bool hot);
 
@@ -54,7 +56,7 @@ COLORREF AccentButton::Surface(UINT state) const {
 }
 
 void AccentButton::DrawItem(const DRAWITEMSTRUCT& item) {
-    const int round = Parent().Sizes().Scaled(6);
+    const int round = Sizes().Scaled(6);
     const COLORREF surface = Surface(item.itemState);
     const OwnedBrush brush(::CreateSolidBrush(surface));
     const OwnedPen pen(::CreatePen(PS_SOLID, 1, surface));
@@ -72,7 +74,7 @@ void AccentButton::DrawItem(const DRAWITEMSTRUCT& item) {
     ::DrawTextW(item.hDC, text.data(), static_cast<int>(text.size()), &place,
                 DT_CENTER | DT_VCENTER | DT_SINGLELINE | DT_NOPREFIX);
     if ((item.itemState & ODS_FOCUS) != 0 && (item.itemState & ODS_NOFOCUSRECT) == 0) {
-        const int margin = Parent().Sizes().Scaled(3);
+        const int margin = Sizes().Scaled(3);
         ::InflateRect(&place, -margin, -margin);
         ::DrawFocusRect(item.hDC, &place);
     }
@@ -85,13 +87,21 @@ void AccentButton::OnCommand(WORD code) {
     }
 }
 
-LRESULT AccentButton::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+void AccentButton::OnCreated() {
+    ::SetWindowSubclass(Handle(), Procedure, 0, reinterpret_cast<DWORD_PTR>(this));
+}
+
+LRESULT CALLBACK AccentButton::Procedure(HWND handle, UINT message, WPARAM wParam, LPARAM lParam,
+                                         UINT_PTR /*id*/, DWORD_PTR self) {
+    auto* button = reinterpret_cast<AccentButton*>(self);
     if (message == WM_MOUSEMOVE) {
-        SetHot(true);
+        button->SetHot(true);
     } else if (message == WM_MOUSELEAVE) {
-        SetHot(false);
+        button->SetHot(false);
+    } else if (message == WM_NCDESTROY) {
+        ::RemoveWindowSubclass(handle, Procedure, 0);
     }
-    return NativeControl::OnMessage(message, wParam, lParam);
+    return ::DefSubclassProc(handle, message, wParam, lParam);
 }
 
 void AccentButton::SetHot(bool hot) {

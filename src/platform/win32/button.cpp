@@ -13,9 +13,9 @@ class NativeButton : public NativeControl {
         : NativeControl(parent, button, {WC_BUTTONW, StyleOf(button)}), button_(button) {}
 
     bool IsPushButton() const override { return true; }
-    void Lay(const Metrics& metrics) override;
 
   protected:
+    void OnLaid() override;
     void OnCommand(WORD code) override;
     std::wstring CaptionText() const override;
 
@@ -29,11 +29,10 @@ class NativeButton : public NativeControl {
     OwnedIcon icon_;
 };
 
-void NativeButton::Lay(const Metrics& metrics) {
-    NativeControl::Lay(metrics);
+void NativeButton::OnLaid() {
     if (button_.GetKind() == toolkit::Kind::PictureButton) {
         constexpr int Size = 16;
-        OwnedIcon icon = LoadPicture(button_.Row().picture, metrics.Scaled(Size));
+        OwnedIcon icon = LoadPicture(button_.Row().picture, Sizes().Scaled(Size));
         Send(BM_SETIMAGE, IMAGE_ICON, reinterpret_cast<LPARAM>(icon.get()));
         icon_ = std::move(icon);
     }

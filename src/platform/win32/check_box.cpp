@@ -24,7 +24,7 @@ class NativeCheckBox : public NativeControl {
         }
     }
 
-    void OnDrawAll() override { OnDraw(Aspect::Checked, -1); }
+    void OnCreated() override { OnDraw(Aspect::Checked, -1); }
 
     std::wstring CaptionText() const override { return WithoutMnemonics(box_.Caption()); }
 

@@ -11,12 +11,12 @@ class NativeCombo : public NativeControl {
         : NativeControl(parent, list, {WC_COMBOBOXW, style | CBS_HASSTRINGS | WS_VSCROLL}),
           list_(list) {}
 
-    void Lay(const Metrics& metrics) override;
-
   protected:
     void OnCommand(WORD code) override;
     void OnDraw(Aspect aspect, int row) override;
-    void OnDrawAll() override;
+    void OnCreated() override;
+    void OnLaid() override;
+    RECT Place() const override;
 
   private:
     toolkit::ItemControl& list_;
@@ -54,23 +54,31 @@ void NativeCombo::OnDraw(Aspect aspect, int row) {
     }
 }
 
-void NativeCombo::OnDrawAll() {
+void NativeCombo::OnCreated() {
     for (int row = 0; row < list_.ListCount(); ++row) {
         OnDraw(Aspect::ItemAdded, row);
     }
-    OnDraw(Aspect::Selection, -1);
+    if (list_.ListIndex() >= 0) {
+        OnDraw(Aspect::Selection, -1);
+    }
 }
 
-void NativeCombo::Lay(const Metrics& metrics) {
+RECT NativeCombo::Place() const {
     // The height of a combo box is that with its list; closed, its font makes it as high as it is.
-    NativeControl::Lay(metrics);
+    RECT place = InMiddle(NativeControl::Place(), Sizes().FieldHeight());
+    constexpr int RowsShown = 12;
+    place.bottom += RowsShown * Sizes().FieldHeight();
+    return place;
+}
+
+void NativeCombo::OnLaid() {
     RECT closed = {};
     ::GetWindowRect(Handle(), &closed);
-    constexpr int RowsShown = 12;
-    const auto row = static_cast<int>(Send(CB_GETITEMHEIGHT));
-    LayInMiddle(metrics, static_cast<int>(closed.bottom - closed.top), RowsShown * row + 2);
-    if (::GetFocus() != Handle()) {
-        Send(CB_SETEDITSEL, 0, MAKELPARAM(-1, 0));  // a resized field would show itself selected
+    const int height = static_cast<int>(closed.bottom - closed.top);
+    if (height != Sizes().FieldHeight()) {
+        const RECT place = InMiddle(NativeControl::Place(), height);
+        ::SetWindowPos(Handle(), nullptr, place.left, place.top, 0, 0,
+                       SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
     }
 }
 
@@ -96,8 +104,8 @@ class NativeEditCombo : public NativeCombo {
         }
     }
 
-    void OnDrawAll() override {
-        NativeCombo::OnDrawAll();
+    void OnCreated() override {
+        NativeCombo::OnCreated();
         OnDraw(Aspect::Text, -1);
     }
 

@@ -1,16 +1,44 @@
 #include "platform/win32/event_loop.h"
 
 #include "platform/desktop.h"
-#include "platform/win32/windows_headers.h"
+#include "platform/win32/registry.h"
 
 namespace platform {
 namespace {
+
+double Across(const MSG& message) {
+    return static_cast<short>(LOWORD(message.lParam));
+}
+
+double Down(const MSG& message) {
+    return static_cast<short>(HIWORD(message.lParam));
+}
+
+/// Tells a control of the pointer when the native one has acted on the message: a click has
+/// selected its row by then. From here no control has to be watched by itself.
+void TellOfPointer(const MSG& message) {
+    const NativeControl* native = FindNative(message.hwnd);
+    if (native == nullptr) {
+        return;
+    }
+    toolkit::Control& control = native->Shown();
+    if (message.message == WM_MOUSEMOVE) {
+        control.UserMovesPointer(Across(message), Down(message));
+    } else if (message.message == WM_LBUTTONUP) {
+        control.UserReleasesButton(1, Across(message), Down(message));
+    } else if (message.message == WM_RBUTTONUP) {
+        control.UserReleasesButton(2, Across(message), Down(message));
+    }
+}
 
 void HandOut(MSG& message) {
     const HWND window = message.hwnd != nullptr ? ::GetAncestor(message.hwnd, GA_ROOT) : nullptr;
     if (window == nullptr || !::IsDialogMessageW(window, &message)) {
         ::TranslateMessage(&message);
         ::DispatchMessageW(&message);
+    }
+    if (message.message >= WM_MOUSEFIRST && message.message <= WM_MOUSELAST) {
+        TellOfPointer(message);
     }
 }
 

@@ -7,16 +7,11 @@ namespace {
 class NativeFrame : public NativeControl {
   public:
     NativeFrame(NativeWindow& parent, toolkit::Control& frame)
-        : NativeControl(parent, frame, {WC_BUTTONW, BS_GROUPBOX, WS_EX_TRANSPARENT, Face::Bold}) {}
+        : NativeControl(parent, frame, {WC_BUTTONW, BS_GROUPBOX | WS_CLIPSIBLINGS, 0, Face::Bold}) {
+    }
 
   protected:
     std::wstring CaptionText() const override { return WithoutMnemonics(Shown().Caption()); }
-
-    LRESULT OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override {
-        // A group box lets the pointer through to the window; ours tells of it.
-        return message == WM_NCHITTEST ? HTCLIENT
-                                       : NativeControl::OnMessage(message, wParam, lParam);
-    }
 };
 
 }  // namespace

@@ -56,13 +56,13 @@ class NativeLabel : public NativeControl {
         : NativeControl(parent, label, {WC_STATICW, StyleOf(label), 0, FaceOf(label.Row())}),
           label_(label) {}
 
-    void Lay(const Metrics& metrics) override;
     HBRUSH Colours(HDC context) override;
+    HCURSOR Pointer() const override;
 
   protected:
     void OnCommand(WORD code) override;
     void OnDraw(Aspect aspect, int row) override;
-    LRESULT OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+    RECT Place() const override;
 
   private:
     static DWORD StyleOf(const toolkit::Label& label);
@@ -85,14 +85,13 @@ DWORD NativeLabel::StyleOf(const toolkit::Label& label) {
     return Common | (isOneLine ? SS_CENTERIMAGE : SS_EDITCONTROL);  // the latter breaks long words
 }
 
-void NativeLabel::Lay(const Metrics& metrics) {
-    NativeControl::Lay(metrics);
+RECT NativeLabel::Place() const {
+    RECT place = NativeControl::Place();
     if (FitsItsText(label_)) {
-        const RECT place = metrics.Pixels(label_.Row().place);
-        ::SetWindowPos(Handle(), nullptr, TextStart(label_, metrics), place.top,
-                       metrics.TextWidth(FaceOf(label_.Row()), label_.Caption()),
-                       place.bottom - place.top, SWP_NOZORDER | SWP_NOACTIVATE);
+        place.left = TextStart(label_, Sizes());
+        place.right = place.left + Sizes().TextWidth(FaceOf(label_.Row()), label_.Caption());
     }
+    return place;
 }
 
 HBRUSH NativeLabel::Colours(HDC context) {
@@ -122,12 +121,8 @@ void NativeLabel::OnDraw(Aspect aspect, int row) {
     }
 }
 
-LRESULT NativeLabel::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
-    if (message == WM_SETCURSOR && label_.Has(toolkit::Link)) {
-        ::SetCursor(::LoadCursorW(nullptr, IDC_HAND));
-        return TRUE;
-    }
-    return NativeControl::OnMessage(message, wParam, lParam);
+HCURSOR NativeLabel::Pointer() const {
+    return label_.Has(toolkit::Link) ? ::LoadCursorW(nullptr, IDC_HAND) : nullptr;
 }
 
 }  // namespace

@@ -1,6 +1,5 @@
 // LISTBOX: a list with one selected row.
 #include "platform/win32/controls.h"
-#include "platform/win32/native_window.h"
 
 namespace platform {
 namespace {
@@ -15,15 +14,13 @@ class NativeListBox : public NativeControl {
                WS_EX_CLIENTEDGE}),
           list_(list) {}
 
-    void Lay(const Metrics& metrics) override;
-
   protected:
     void OnCommand(WORD code) override;
     void OnDraw(Aspect aspect, int row) override;
-    void OnDrawAll() override;
+    void OnCreated() override;
+    void OnLaid() override;
 
   private:
-    void Insert(int row);
     void Widen(int row);
 
     toolkit::ListBox& list_;
@@ -45,7 +42,8 @@ void NativeListBox::OnCommand(WORD code) {
 void NativeListBox::OnDraw(Aspect aspect, int row) {
     switch (aspect) {
         case Aspect::ItemAdded:
-            Insert(row);
+            SendText(LB_INSERTSTRING, static_cast<WPARAM>(row), list_.List(row));
+            Widen(row);
             break;
         case Aspect::ItemRemoved:
             Send(LB_DELETESTRING, static_cast<WPARAM>(row));
@@ -63,20 +61,15 @@ void NativeListBox::OnDraw(Aspect aspect, int row) {
     }
 }
 
-void NativeListBox::OnDrawAll() {
+void NativeListBox::OnCreated() {
     for (int row = 0; row < list_.ListCount(); ++row) {
-        Insert(row);
+        SendText(LB_INSERTSTRING, static_cast<WPARAM>(row), list_.List(row));
     }
     OnDraw(Aspect::Selection, -1);
 }
 
-void NativeListBox::Insert(int row) {
-    SendText(LB_INSERTSTRING, static_cast<WPARAM>(row), list_.List(row));
-    Widen(row);
-}
-
 void NativeListBox::Widen(int row) {
-    const int width = Parent().Sizes().TextWidth(Face::Body, list_.List(row));
+    const int width = Sizes().TextWidth(Face::Body, list_.List(row));
     constexpr int Margin = 8;
     if (width + Margin > widest_) {
         widest_ = width + Margin;
@@ -84,8 +77,7 @@ void NativeListBox::Widen(int row) {
     }
 }
 
-void NativeListBox::Lay(const Metrics& metrics) {
-    NativeControl::Lay(metrics);
+void NativeListBox::OnLaid() {
     widest_ = 0;
     for (int row = 0; row < list_.ListCount(); ++row) {
         Widen(row);

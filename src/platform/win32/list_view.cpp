@@ -8,14 +8,16 @@ namespace {
 class NativeListView : public NativeControl {
   public:
     NativeListView(NativeWindow& parent, toolkit::ListView& list);
-    void Lay(const Metrics& metrics) override;
 
   protected:
     LRESULT OnNotify(const NMHDR& notice) override;
     void OnDraw(Aspect aspect, int row) override;
-    void OnDrawAll() override;
+    void OnCreated() override;
+    void OnLaid() override;
+    std::wstring CaptionText() const override { return {}; }  // its caption has the columns' heads
 
   private:
+    void MakeColumns();
     void Insert(int row);
     void DrawSelection();
 
@@ -27,10 +29,12 @@ NativeListView::NativeListView(NativeWindow& parent, toolkit::ListView& list)
           parent, list,
           {WC_LISTVIEWW, LVS_REPORT | LVS_SINGLESEL | LVS_SHOWSELALWAYS | LVS_NOSORTHEADER,
            WS_EX_CLIENTEDGE}),
-      list_(list) {
+      list_(list) {}
+
+void NativeListView::MakeColumns() {
     constexpr LPARAM Extended = LVS_EX_FULLROWSELECT | LVS_EX_DOUBLEBUFFER | LVS_EX_LABELTIP;
     Send(LVM_SETEXTENDEDLISTVIEWSTYLE, 0, Extended);
-    const std::string& heads = list.Caption();
+    const std::string& heads = list_.Caption();
     const std::size_t bar = heads.find('|');
     std::wstring texts[] = {Wide(heads.substr(0, bar)), Wide(heads.substr(bar + 1))};
     for (int i = 0; i < 2; ++i) {
@@ -41,8 +45,7 @@ NativeListView::NativeListView(NativeWindow& parent, toolkit::ListView& list)
     }
 }
 
-void NativeListView::Lay(const Metrics& metrics) {
-    NativeControl::Lay(metrics);
+void NativeListView::OnLaid() {
     RECT inside = {};
     ::GetClientRect(Handle(), &inside);
     const int width = inside.right - ::GetSystemMetrics(SM_CXVSCROLL);
@@ -83,7 +86,8 @@ void NativeListView::OnDraw(Aspect aspect, int row) {
     }
 }
 
-void NativeListView::OnDrawAll() {
+void NativeListView::OnCreated() {
+    MakeColumns();
     for (int row = 1; row <= list_.RowCount(); ++row) {
         Insert(row);
     }

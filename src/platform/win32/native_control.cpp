@@ -9,14 +9,6 @@
 namespace platform {
 namespace {
 
-HWND Create(const NativeWindow& parent, const toolkit::Control& control, const NativeClass& what) {
-    const DWORD tabStop = IsInTabOrder(control) ? WS_TABSTOP : 0;
-    const auto id = static_cast<INT_PTR>(ControlId(parent.Shown().Table(), control.Row()));
-    return ::CreateWindowExW(
-        what.extendedStyle, what.name, L"", WS_CHILD | WS_CLIPSIBLINGS | tabStop | what.style, 0, 0,
-        0, 0, parent.Handle(), reinterpret_cast<HMENU>(id), ::GetModuleHandleW(nullptr), nullptr);
-}
-
 /// Counts a level of drawing for as long as it lives.
 class Level {
   public:
@@ -29,64 +21,45 @@ class Level {
     int& depth_;
 };
 
-double Across(LPARAM position) {
-    return static_cast<short>(LOWORD(position));
-}
-
-double Down(LPARAM position) {
-    return static_cast<short>(HIWORD(position));
-}
-
 }  // namespace
 
-NativeControl::NativeControl(NativeWindow& parent, toolkit::Control& control,
-                             const NativeClass& what)
-    : parent_(parent), control_(control), face_(what.face), handle_(Create(parent, control, what)) {
-    ::SetWindowSubclass(handle_, Procedure, 0, reinterpret_cast<DWORD_PTR>(this));
+DWORD NativeControl::Style() const {
+    return WS_CHILD | class_.style | (IsInTabOrder(control_) ? WS_TABSTOP : 0) |
+           (control_.Visible() ? WS_VISIBLE : 0) | (control_.Enabled() ? 0 : WS_DISABLED);
 }
 
-NativeControl::~NativeControl() {
-    ::RemoveWindowSubclass(handle_, Procedure, 0);
-}
-
-LRESULT CALLBACK NativeControl::Procedure(HWND /*handle*/, UINT message, WPARAM wParam,
-                                          LPARAM lParam, UINT_PTR /*id*/, DWORD_PTR self) {
-    return reinterpret_cast<NativeControl*>(self)->OnMessage(message, wParam, lParam);
-}
-
-LRESULT NativeControl::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
-    // The native control acts first: a click has selected its row before it is reported.
-    const LRESULT result = ::DefSubclassProc(handle_, message, wParam, lParam);
-    switch (message) {
-        case WM_MOUSEMOVE:
-            control_.UserMovesPointer(Across(lParam), Down(lParam));
-            break;
-        case WM_LBUTTONUP:
-            control_.UserReleasesButton(1, Across(lParam), Down(lParam));
-            break;
-        case WM_RBUTTONUP:
-            control_.UserReleasesButton(2, Across(lParam), Down(lParam));
-            break;
-        default:
-            break;
+void NativeControl::Create() {
+    const Level level(drawing_);
+    const RECT place = Place();
+    const auto id = static_cast<INT_PTR>(ControlId(control_.Owner().Table(), control_.Row()));
+    handle_ = ::CreateWindowExW(class_.extendedStyle, class_.name, CaptionText().c_str(), Style(),
+                                place.left, place.top, place.right - place.left,
+                                place.bottom - place.top, parent_.Handle(),
+                                reinterpret_cast<HMENU>(id), ::GetModuleHandleW(nullptr), nullptr);
+    TakeFont();
+    OnCreated();
+    OnLaid();
+    if (!control_.ToolTip().empty()) {
+        OnDraw(Aspect::ToolTip, -1);
     }
-    return result;
+}
+
+void NativeControl::TakeFont() const {
+    Send(WM_SETFONT, reinterpret_cast<WPARAM>(Sizes().Font(class_.face)), FALSE);
+}
+
+void NativeControl::Lay() {
+    const Level level(drawing_);
+    const RECT place = Place();
+    TakeFont();
+    ::SetWindowPos(handle_, nullptr, place.left, place.top, place.right - place.left,
+                   place.bottom - place.top, SWP_NOZORDER | SWP_NOACTIVATE);
+    OnLaid();
 }
 
 void NativeControl::Draw(Aspect aspect, int row) {
     const Level level(drawing_);
     OnDraw(aspect, row);
-}
-
-void NativeControl::DrawAll() {
-    const Level level(drawing_);
-    OnDraw(Aspect::Caption, -1);
-    OnDrawAll();
-    OnDraw(Aspect::Enabled, -1);
-    OnDraw(Aspect::Visible, -1);
-    if (!control_.ToolTip().empty()) {
-        OnDraw(Aspect::ToolTip, -1);
-    }
 }
 
 void NativeControl::OnDraw(Aspect aspect, int /*row*/) {
@@ -104,7 +77,7 @@ void NativeControl::OnDraw(Aspect aspect, int /*row*/) {
             parent_.Tips().Set(handle_, control_.ToolTip());
             break;
         case Aspect::Focus:
-            DrawFocus();
+            parent_.Focus(handle_);
             break;
         default:
             break;
@@ -119,22 +92,18 @@ void NativeControl::DrawEnabled() {
     ::EnableWindow(handle_, control_.Enabled());
 }
 
-void NativeControl::DrawFocus() {
-    parent_.Focus(handle_);
+const Metrics& NativeControl::Sizes() const {
+    return parent_.Sizes();
 }
 
-void NativeControl::Lay(const Metrics& metrics) {
-    Send(WM_SETFONT, reinterpret_cast<WPARAM>(metrics.Font(face_)), TRUE);
-    const RECT place = metrics.Pixels(control_.Row().place);
-    ::SetWindowPos(handle_, nullptr, place.left, place.top, place.right - place.left,
-                   place.bottom - place.top, SWP_NOZORDER | SWP_NOACTIVATE);
+RECT NativeControl::Place() const {
+    return Sizes().Pixels(control_.Row().place);
 }
 
-void NativeControl::LayInMiddle(const Metrics& metrics, int height, int more) const {
-    const RECT place = metrics.Pixels(control_.Row().place);
-    const int spare = place.bottom - place.top - height;
-    ::SetWindowPos(handle_, nullptr, place.left, place.top + spare / 2, place.right - place.left,
-                   height + more, SWP_NOZORDER | SWP_NOACTIVATE);
+RECT NativeControl::InMiddle(RECT place, int height) {
+    place.top += (place.bottom - place.top - height) / 2;
+    place.bottom = place.top + height;
+    return place;
 }
 
 void NativeControl::Command(WORD code) {
@@ -145,12 +114,6 @@ void NativeControl::Command(WORD code) {
 
 LRESULT NativeControl::Notify(const NMHDR& notice) {
     return drawing_ == 0 ? OnNotify(notice) : 0;
-}
-
-void NativeControl::OnCommand(WORD /*code*/) {}
-
-LRESULT NativeControl::OnNotify(const NMHDR& /*notice*/) {
-    return 0;
 }
 
 HBRUSH NativeControl::Colours(HDC /*context*/) {

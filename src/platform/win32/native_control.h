@@ -23,20 +23,23 @@ struct NativeClass {
 /// control has a class of its own in a file of its own. The window destroys the native part.
 class NativeControl {
   public:
-    NativeControl(NativeWindow& parent, toolkit::Control& control, const NativeClass& what);
+    NativeControl(NativeWindow& parent, toolkit::Control& control, const NativeClass& what)
+        : parent_(parent), control_(control), class_(what) {}
     NativeControl(const NativeControl&) = delete;
     NativeControl& operator=(const NativeControl&) = delete;
-    virtual ~NativeControl();
+    virtual ~NativeControl() = default;
+
+    /// Makes the native control as the toolkit's control is now, in one call as far as that goes:
+    /// each further one would cost the start of the program time.
+    void Create();
 
     HWND Handle() const { return handle_; }
     toolkit::Control& Shown() const { return control_; }
 
     /// Draws one aspect anew. What the native control says meanwhile is not the user's doing.
     void Draw(Aspect aspect, int row = -1);
-    /// Draws everything, from the state of the toolkit's control.
-    void DrawAll();
-    /// Takes its font and its place in the window.
-    virtual void Lay(const Metrics& metrics);
+    /// Takes its font and its place at another density.
+    void Lay();
 
     /// A notification of WM_COMMAND or WM_NOTIFY, passed on when the user was the cause.
     void Command(WORD code);
@@ -46,25 +49,26 @@ class NativeControl {
     virtual HBRUSH Colours(HDC context);
     /// Draws a control that Windows does not.
     virtual void DrawItem(const DRAWITEMSTRUCT& item);
+    /// The pointer over this control; null for the usual arrow.
+    virtual HCURSOR Pointer() const { return nullptr; }
     /// Whether the Enter key presses this control when it has the focus.
     virtual bool IsPushButton() const { return false; }
 
   protected:
     /// What Command and Notify stand for in this kind of control.
-    virtual void OnCommand(WORD code);
-    virtual LRESULT OnNotify(const NMHDR& notice);
+    virtual void OnCommand(WORD /*code*/) {}
+    virtual LRESULT OnNotify(const NMHDR& /*notice*/) { return 0; }
     /// Draws one aspect; those that all controls share are drawn here.
     virtual void OnDraw(Aspect aspect, int row);
-    /// Draws what this kind holds beside the shared aspects.
-    virtual void OnDrawAll() {}
-    /// A message of the control itself.
-    virtual LRESULT OnMessage(UINT message, WPARAM wParam, LPARAM lParam);
+    /// Fills a control that has just been made with what it holds beside its caption.
+    virtual void OnCreated() {}
+    /// Follows when it has taken its font and place.
+    virtual void OnLaid() {}
+    /// Its place in the window, in pixels: what the table says.
+    virtual RECT Place() const;
     /// The text that the native control has for its caption.
     virtual std::wstring CaptionText() const;
 
-    /// Puts a control that has a height of its own into the middle of its place, with `more` pixels
-    /// below that are seen only when it drops down.
-    void LayInMiddle(const Metrics& metrics, int height, int more) const;
     LRESULT Send(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const {
         return ::SendMessageW(handle_, message, wParam, lParam);
     }
@@ -72,17 +76,19 @@ class NativeControl {
     LRESULT SendText(UINT message, WPARAM wParam, const std::string& text) const;
     std::string NativeText() const;
     NativeWindow& Parent() const { return parent_; }
+    const Metrics& Sizes() const;
+    /// `place` with another height, in its middle.
+    static RECT InMiddle(RECT place, int height);
 
   private:
-    static LRESULT CALLBACK Procedure(HWND handle, UINT message, WPARAM wParam, LPARAM lParam,
-                                      UINT_PTR id, DWORD_PTR self);
+    DWORD Style() const;
+    void TakeFont() const;
     void DrawEnabled();
-    void DrawFocus();
 
     NativeWindow& parent_;
     toolkit::Control& control_;
-    Face face_;
-    HWND handle_;
+    NativeClass class_;
+    HWND handle_ = nullptr;
     int drawing_ = 0;  // depth of nested calls of Draw
 };
 

@@ -33,11 +33,8 @@ void NativeWindow::RegisterWindowClass() {
 
 NativeWindow::NativeWindow(toolkit::Window& window)
     : window_(window), handle_(Create(window)), metrics_(DensityOf(handle_)) {
+    Size();
     MakeControls();
-    Lay();
-    for (const auto& control : controls_) {
-        control->DrawAll();
-    }
     ::SetWindowLongPtrW(handle_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
 }
 
@@ -50,10 +47,11 @@ NativeWindow::~NativeWindow() {
 void NativeWindow::MakeControls() {
     for (toolkit::Control* control : InStackingOrder(window_)) {
         controls_.push_back(MakeControl(*this, *control));
+        controls_.back()->Create();
     }
 }
 
-void NativeWindow::Lay() {
+void NativeWindow::Size() {
     const toolkit::WindowTable& table = window_.Table();
     const RECT inside = metrics_.Pixels({0, 0, table.width, table.height});
     // The frame takes what a first try leaves too little for the inside.
@@ -64,9 +62,6 @@ void NativeWindow::Lay() {
     ::SetWindowPos(handle_, nullptr, 0, 0, 2 * inside.right - got.right,
                    2 * inside.bottom - got.bottom, Flags);
     band_.Lay(window_, metrics_);
-    for (const auto& control : controls_) {
-        control->Lay(metrics_);
-    }
 }
 
 NativeControl* NativeWindow::Find(const toolkit::Control& control) const {

@@ -31,6 +31,8 @@ class NativeWindow {
     Band& TitleBand() { return band_; }
     /// The native control of one of the window's controls; null when there is none.
     NativeControl* Find(const toolkit::Control& control) const;
+    /// The one with that handle; null when there is none.
+    NativeControl* FromHandle(HWND handle) const;
 
     void DrawCaption() const;
     /// Puts the window into the middle of the screen that its owner, if any, is on.
@@ -57,14 +59,14 @@ class NativeWindow {
     LRESULT OnActivate(WPARAM wParam, LPARAM lParam);
     LRESULT OnSetFocus(WPARAM wParam, LPARAM lParam);
     LRESULT OnDefaultButton(WPARAM wParam, LPARAM lParam);
+    LRESULT OnSetCursor(WPARAM wParam, LPARAM lParam);
     LRESULT OnPointer(WPARAM wParam, LPARAM lParam);
     LRESULT OnDensity(WPARAM wParam, LPARAM lParam);
 
     void MakeControls();
-    void Lay();
+    void Size();
     void RestoreFocus();
     void PressCancel();
-    NativeControl* FromHandle(HWND handle) const;
     NativeControl* WithFlag(toolkit::Flag flag) const;
 
     toolkit::Window& window_;

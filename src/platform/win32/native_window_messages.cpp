@@ -18,12 +18,14 @@ const NativeWindow::Route NativeWindow::routes[] = {
     {WM_ACTIVATE, &NativeWindow::OnActivate},
     {WM_SETFOCUS, &NativeWindow::OnSetFocus},
     {DM_GETDEFID, &NativeWindow::OnDefaultButton},
+    {WM_SETCURSOR, &NativeWindow::OnSetCursor},
     {WM_MOUSEMOVE, &NativeWindow::OnPointer},
     {WM_DPICHANGED, &NativeWindow::OnDensity},
 };
 
 LRESULT CALLBACK NativeWindow::Procedure(HWND handle, UINT message, WPARAM wParam, LPARAM lParam) {
-    auto* self = reinterpret_cast<NativeWindow*>(::GetWindowLongPtrW(handle, GWLP_USERDATA));
+    NativeWindow* self =
+        reinterpret_cast<NativeWindow*>(::GetWindowLongPtrW(handle, GWLP_USERDATA));
     return self != nullptr ? self->Answer(message, wParam, lParam)
                            : ::DefWindowProcW(handle, message, wParam, lParam);
 }
@@ -117,10 +119,20 @@ LRESULT NativeWindow::OnDefaultButton(WPARAM /*wParam*/, LPARAM /*lParam*/) {
     return button != nullptr ? MAKELRESULT(::GetDlgCtrlID(button->Handle()), DC_HASDEFID) : 0;
 }
 
+LRESULT NativeWindow::OnSetCursor(WPARAM wParam, LPARAM lParam) {
+    const NativeControl* control = FromHandle(reinterpret_cast<HWND>(wParam));
+    const HCURSOR pointer = control != nullptr ? control->Pointer() : nullptr;
+    if (pointer == nullptr) {
+        return Default(WM_SETCURSOR, wParam, lParam);
+    }
+    ::SetCursor(pointer);
+    return TRUE;
+}
+
 LRESULT NativeWindow::OnPointer(WPARAM wParam, LPARAM lParam) {
     const POINT point = {static_cast<short>(LOWORD(lParam)), static_cast<short>(HIWORD(lParam))};
     const HWND child = ::ChildWindowFromPointEx(handle_, point, CWP_SKIPINVISIBLE);
-    // Windows sends us what moves over a control that is disabled.
+    // Windows sends us what moves over a frame, or over a control that is disabled.
     if (NativeControl* control = FromHandle(child)) {
         POINT inside = point;
         ::MapWindowPoints(handle_, child, &inside, 1);
@@ -136,7 +148,10 @@ LRESULT NativeWindow::OnDensity(WPARAM wParam, LPARAM lParam) {
     metrics_ = Metrics(HIWORD(wParam));
     ::SetWindowPos(handle_, nullptr, place.left, place.top, 0, 0,
                    SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
-    Lay();
+    Size();
+    for (const auto& control : controls_) {
+        control->Lay();
+    }
     ::InvalidateRect(handle_, nullptr, TRUE);
     return 0;
 }

@@ -21,10 +21,13 @@ SIZE SizeOf(HICON icon) {
 class NativePicture : public NativeControl {
   public:
     NativePicture(NativeWindow& parent, toolkit::Control& picture)
-        : NativeControl(parent, picture, {WC_STATICW, SS_OWNERDRAW | SS_NOTIFY}) {}
+        : NativeControl(parent, picture, {WC_STATICW, SS_OWNERDRAW | SS_NOTIFY | WS_CLIPSIBLINGS}) {
+    }
 
-    void Lay(const Metrics& metrics) override;
     void DrawItem(const DRAWITEMSTRUCT& item) override;
+
+  protected:
+    void OnLaid() override;
 
   private:
     bool IsBand() const { return Shown().Row().picture == BandPicture; }
@@ -32,8 +35,7 @@ class NativePicture : public NativeControl {
     OwnedIcon icon_;
 };
 
-void NativePicture::Lay(const Metrics& metrics) {
-    NativeControl::Lay(metrics);
+void NativePicture::OnLaid() {
     if (!IsBand()) {
         RECT inside = {};
         ::GetClientRect(Handle(), &inside);

@@ -46,6 +46,16 @@ NativeControl* FindNative(const toolkit::Control& control) {
     return window != nullptr ? window->Find(control) : nullptr;
 }
 
+NativeControl* FindNative(HWND control) {
+    const HWND window = ::GetParent(control);
+    for (const Entry& entry : entries) {
+        if (entry.native != nullptr && entry.native->Handle() == window) {
+            return entry.native->FromHandle(control);
+        }
+    }
+    return nullptr;
+}
+
 void PutOnTop(NativeWindow& window) {
     shown.push_back(&window);
 }

@@ -17,6 +17,8 @@ NativeWindow* FindNative(const toolkit::Window& window);
 NativeWindow* EnsureNative(const toolkit::Window& window);
 /// The native control, null when its window has not been made.
 NativeControl* FindNative(const toolkit::Control& control);
+/// The control with that handle, null when it is none of ours.
+NativeControl* FindNative(HWND control);
 
 /// Counts a window as the topmost one of those that are shown, or no longer among them.
 void PutOnTop(NativeWindow& window);

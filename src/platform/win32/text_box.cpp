@@ -8,14 +8,7 @@ namespace {
 class NativeTextBox : public NativeControl {
   public:
     NativeTextBox(NativeWindow& parent, toolkit::TextBox& box)
-        : NativeControl(parent, box, {WC_EDITW, ES_AUTOHSCROLL, WS_EX_CLIENTEDGE}), box_(box) {
-        Send(EM_SETLIMITTEXT);  // none
-    }
-
-    void Lay(const Metrics& metrics) override {
-        NativeControl::Lay(metrics);
-        LayInMiddle(metrics, metrics.FieldHeight(), 0);  // its text would stay at the top
-    }
+        : NativeControl(parent, box, {WC_EDITW, ES_AUTOHSCROLL, WS_EX_CLIENTEDGE}), box_(box) {}
 
   protected:
     void OnCommand(WORD code) override {
@@ -25,14 +18,15 @@ class NativeTextBox : public NativeControl {
     }
 
     void OnDraw(Aspect aspect, int row) override {
-        if (aspect == Aspect::Text) {
-            ::SetWindowTextW(Handle(), Wide(box_.Text()).c_str());
-        } else if (aspect != Aspect::Caption) {  // for this control its text
-            NativeControl::OnDraw(aspect, row);
-        }
+        NativeControl::OnDraw(aspect == Aspect::Text ? Aspect::Caption : aspect, row);
     }
 
-    void OnDrawAll() override { OnDraw(Aspect::Text, -1); }
+    void OnCreated() override { Send(EM_SETLIMITTEXT); }  // none
+
+    // In a higher field the text would stay at the top.
+    RECT Place() const override { return InMiddle(NativeControl::Place(), Sizes().FieldHeight()); }
+
+    std::wstring CaptionText() const override { return Wide(box_.Text()); }
 
   private:
     toolkit::TextBox& box_;
