@@ -51,6 +51,8 @@ constexpr toolkit::WindowTable FormTable = {
 
 struct Form : toolkit::Window {
     Form() : Window(FormTable) { Load(); }
+    Form(const Form&) = delete;
+    Form& operator=(const Form&) = delete;
     ~Form() { Unload(); }
     QWidget& WidgetOf(const toolkit::Control& control) {
         return platform::qt::MakeNative(*this)->Find(control).Widget();

@@ -84,10 +84,8 @@ void LoadWindow(toolkit::Window& window) {
 }
 
 void UnloadWindow(toolkit::Window& window) {
-    // The window may be unloaded by a handler of one of its own widgets, which run on.
     if (qt::NativeWindow* native = qt::NativeOf(&window)) {
-        native->hide();
-        native->deleteLater();
+        native->Retire();
     }
     LoadedWindows().erase(&window);
 }

@@ -166,6 +166,13 @@ void NativeWindow::Centre(const QWidget* owner) {
     }
 }
 
+void NativeWindow::Retire() {
+    surfaces_.clear();
+    setEnabled(false);
+    hide();
+    deleteLater();
+}
+
 bool NativeWindow::eventFilter(QObject* watched, QEvent* event) {
     toolkit::Control* control = surfaces_.value(watched);
     if (control == nullptr) {
@@ -187,7 +194,7 @@ void NativeWindow::mouseMoveEvent(QMouseEvent*) {
 }
 
 void NativeWindow::enterEvent(QEnterEvent* event) {
-    if (childAt(event->position().toPoint()) == nullptr) {
+    if (isEnabled() && childAt(event->position().toPoint()) == nullptr) {
         window_.UserMovesPointer();
     }
 }
@@ -223,7 +230,9 @@ void NativeWindow::keyPressEvent(QKeyEvent* event) {
 
 void NativeWindow::closeEvent(QCloseEvent* event) {
     event->ignore();
-    window_.UserCloses();
+    if (isEnabled()) {
+        window_.UserCloses();
+    }
 }
 
 /// The desktop's font may change while the window is there.

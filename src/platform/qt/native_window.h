@@ -19,6 +19,9 @@ class NativeWindow final : public QWidget {
     NativeControl& Find(const toolkit::Control& control) const { return *natives_.at(&control); }
     /// Puts it in the middle of the screen of `owner`, or of the first screen.
     void Centre(const QWidget* owner);
+    /// Hides it and deletes it as soon as no handler of its widgets runs. What still arrives for it
+    /// until then is dropped: the toolkit window may be gone.
+    void Retire();
 
   protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
