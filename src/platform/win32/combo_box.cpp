@@ -55,9 +55,11 @@ void NativeCombo::OnDraw(Aspect aspect, int row) {
 }
 
 void NativeCombo::OnCreated() {
+    Send(WM_SETREDRAW, FALSE);  // else its scroll bar follows each row
     for (int row = 0; row < list_.ListCount(); ++row) {
         OnDraw(Aspect::ItemAdded, row);
     }
+    Send(WM_SETREDRAW, TRUE);
     if (list_.ListIndex() >= 0) {
         OnDraw(Aspect::Selection, -1);
     }

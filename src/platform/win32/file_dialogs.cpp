@@ -12,6 +12,11 @@ namespace {
 constexpr DWORD RecordSize = offsetof(OPENFILENAMEA, lpTemplateName) + sizeof(LPCSTR);
 static_assert(sizeof(void*) != 4 || RecordSize == 76);
 
+void FreeItem(LPITEMIDLIST item) {
+    LATE(ole32, CoTaskMemFree)(item);
+}
+using Item = Owned<LPITEMIDLIST, FreeItem>;
+
 using Dialog = BOOL(WINAPI*)(OPENFILENAMEA*);
 
 HWND HandleOf(const toolkit::Window* window) {
@@ -46,11 +51,11 @@ bool Run(Dialog dialog, OpenFileName& record) {
 }  // namespace
 
 bool GetOpenFileNameA(OpenFileName& record) {
-    return Run(::GetOpenFileNameA, record);
+    return Run(LATE(comdlg32, GetOpenFileNameA), record);
 }
 
 bool GetSaveFileNameA(OpenFileName& record) {
-    return Run(::GetSaveFileNameA, record);
+    return Run(LATE(comdlg32, GetSaveFileNameA), record);
 }
 
 std::string BrowseForFolderPath(const BrowseInfo& info) {
@@ -59,13 +64,13 @@ std::string BrowseForFolderPath(const BrowseInfo& info) {
     native.hwndOwner = HandleOf(info.hwndOwner);
     native.lpszTitle = info.lpszTitle.c_str();
     native.ulFlags = BIF_RETURNONLYFSDIRS;
-    const Owned<PIDLIST_ABSOLUTE, ::CoTaskMemFree> item(::SHBrowseForFolderA(&native));
+    const Item item(LATE(shell32, SHBrowseForFolderA)(&native));
     if (item == nullptr) {
         return {};
     }
     static_assert(FolderBufferSize >= MAX_PATH);
     std::string folder(FolderBufferSize, '\0');
-    if (!::SHGetPathFromIDListA(item.get(), folder.data())) {
+    if (!LATE(shell32, SHGetPathFromIDListA)(item.get(), folder.data())) {
         folder.assign(FolderBufferSize, '\0');
     }
     return folder;

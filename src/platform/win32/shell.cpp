@@ -22,7 +22,7 @@ bool ShellExecuteExA(ShellExecuteInfo& info) {
     record.lpParameters = info.lpParameters.c_str();
     record.lpDirectory = info.lpDirectory.c_str();
     record.nShow = info.nShow;
-    const bool accepted = ::ShellExecuteExA(&record) != 0;
+    const bool accepted = LATE(shell32, ShellExecuteExA)(&record) != 0;
     info.hProcess = record.hProcess != nullptr
                         ? ProcessHandle(reinterpret_cast<std::intptr_t>(record.hProcess))
                         : ProcessHandle();
