@@ -3,8 +3,8 @@ MAKEFLAGS += --no-print-directory
 INSTALL := scripts/install-packages
 SECONDS_PER_TARGET ?= 60
 
-.PHONY: help run prepare-run tour test sanitize bench fuzz windows test-windows package test-package \
-	format lint clean
+.PHONY: help run prepare-run tour test sanitize bench fuzz windows test-windows bench-windows \
+	package test-package format lint clean
 
 help:
 	@echo 'make run           build Zorvane and start it; without a display, take a tour with pictures'
@@ -15,6 +15,7 @@ help:
 	@echo 'make fuzz          a minute for each fuzz target (SECONDS_PER_TARGET=60)'
 	@echo 'make windows       the Windows programs and their zips, in dist/'
 	@echo 'make test-windows  the tests of the Windows build, under Wine'
+	@echo 'make bench-windows start-up of the Windows program beside a bare window, under Wine'
 	@echo 'make package       the Debian package, in dist/'
 	@echo 'make test-package  the package, installed, started and purged on this machine'
 	@echo 'make format        bring every source into form'
@@ -71,11 +72,20 @@ windows:
 	cmake --build build/win32 --target zorvane
 	packaging/windows/pack
 
+# What the Windows program leaves, a program of the Linux build goes on with.
 test-windows:
-	@$(INSTALL) build windows wine display
+	@$(INSTALL) build desktop windows wine test display
+	cmake --preset release -DZORVANE_TESTS=ON
+	cmake --build build/release --target other_side
 	cmake --preset win64 -DZORVANE_TESTS=ON
 	cmake --build build/win64
-	@WINEPREFIX=$(CURDIR)/build/wine WINEDEBUG=-all scripts/run-tests build/win64
+	@tests/windows/under-wine scripts/run-tests build/win64
+
+bench-windows:
+	@$(INSTALL) build windows wine display
+	cmake --preset win64 -DZORVANE_BENCH=ON
+	cmake --build build/win64
+	@tests/windows/under-wine build/win64/bench/startup-windows/run
 
 package:
 	@$(INSTALL) build desktop package

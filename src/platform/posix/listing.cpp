@@ -7,7 +7,7 @@
 
 #include "platform/files.h"
 #include "platform/posix/paths.h"
-#include "text/ascii.h"
+#include "text/file_names.h"
 
 namespace platform {
 namespace {
@@ -24,37 +24,6 @@ bool IsOrdinary(const std::string& native) {
     struct stat facts = {};
     return !IsHidden(BareName(native)) && stat(native.c_str(), &facts) == 0 &&
            S_ISREG(facts.st_mode);
-}
-
-/// `*` stands for any characters, `?` for one. After a mismatch the last `*` takes one more.
-bool Matches(std::string_view name, std::string_view pattern) {
-    std::size_t at = 0;
-    std::size_t inPattern = 0;
-    std::size_t star = std::string_view::npos;
-    std::size_t behindStar = 0;
-    while (at < name.size()) {
-        if (inPattern < pattern.size() && pattern[inPattern] == '*') {
-            star = inPattern++;
-            behindStar = at;
-        } else if (inPattern < pattern.size() &&
-                   (pattern[inPattern] == '?' ||
-                    LowerCase(pattern[inPattern]) == LowerCase(name[at]))) {
-            ++inPattern;
-            ++at;
-        } else if (star != std::string_view::npos) {
-            inPattern = star + 1;
-            at = ++behindStar;
-        } else {
-            return false;
-        }
-    }
-    return pattern.find_first_not_of('*', inPattern) == std::string_view::npos;
-}
-
-/// A Windows folder is listed by the capital forms of its names.
-bool ComesBefore(const std::string& left, const std::string& right) {
-    const int order = UpperCase(left).compare(UpperCase(right));
-    return order != 0 ? order < 0 : left < right;
 }
 
 }  // namespace
@@ -87,11 +56,11 @@ std::vector<std::string> ListFiles(const std::string& directory, const std::stri
     const std::unique_ptr<DIR, int (*)(DIR*)> listing(folder ? opendir(folder->c_str()) : nullptr,
                                                       closedir);
     while (const dirent* entry = listing ? readdir(listing.get()) : nullptr) {
-        if (Matches(entry->d_name, pattern) && IsOrdinary(*folder + '/' + entry->d_name)) {
+        if (MatchesPattern(entry->d_name, pattern) && IsOrdinary(*folder + '/' + entry->d_name)) {
             names.emplace_back(entry->d_name);
         }
     }
-    std::ranges::sort(names, ComesBefore);
+    std::ranges::sort(names, ListedBefore);
     return names;
 }
 
