@@ -7,10 +7,56 @@
 #include "text/ascii.h"
 #include "wad/little_endian.h"
 
+namespace {
+
+bool IsPadding(char character) {
+    return character == '\0' || character == ' ';
+}
+
+/// Whether the cleaned name of a field of eight characters is `name`.
+bool IsNamed(const char* field, std::string_view name) {
+    const char* const end = field + lumpNameLength;
+    field = std::find_if_not(field, end, IsPadding);
+    if (name.size() > static_cast<std::size_t>(end - field)) {
+        return false;
+    }
+    const auto isSame = [](char wanted, char character) {
+        return wanted == (character == '\0' ? ' ' : character);
+    };
+    return std::equal(name.begin(), name.end(), field, isSame) &&
+           std::all_of(field + name.size(), end, IsPadding);
+}
+
+/// The first of `count` entries from `start` on that has this name, or `count`.
+std::int32_t FindNamed(const char* entries, std::int32_t start, std::int32_t count,
+                       std::string_view name) {
+    // A field that begins with another letter, as most do, needs no closer look.
+    const char first = name.empty() ? '\0' : name.front();
+    for (std::int32_t index = start; index < count; ++index) {
+        const char* const field =
+            entries + static_cast<std::size_t>(index) * WadDirectory::entryBytes + 8;
+        if ((*field == first || IsPadding(*field)) && IsNamed(field, name)) {
+            return index;
+        }
+    }
+    return count;
+}
+
+}  // namespace
+
 std::string StripLumpName(const char* field) {
     LumpNameField name{};
     std::replace_copy(field, field + lumpNameLength, name.begin(), '\0', ' ');
-    return std::string(TrimBlanks({name.data(), name.size()}));
+    std::size_t end = lumpNameLength;
+    while (end > 0 && name[end - 1] == ' ') {
+        --end;
+    }
+    std::string text(name.data(), lumpNameLength);  // a length that is known here copies quickest
+    text.resize(end);
+    if (text.starts_with(' ')) {
+        text.erase(0, text.find_first_not_of(' '));
+    }
+    return text;
 }
 
 bool WadDirectory::Read(const platform::File& file, std::int64_t offset, std::int32_t count) {
@@ -44,16 +90,19 @@ WadLumpEntry WadDirectory::Entry(std::int32_t index) const {
     return entry;
 }
 
-std::int32_t WadDirectory::Find(std::string_view name) const {
-    for (std::int32_t index = 0; index < Count(); ++index) {
-        if (LumpNameIs(NameField(index), name)) {
-            return index;
-        }
-        if (index == read_ && index < firstAdded_) {
-            index = firstAdded_ - 1;  // all the missing ones are as nameless as this one
+std::int32_t WadDirectory::Find(std::string_view name, std::int32_t start) const {
+    if (start < read_) {
+        const std::int32_t found = FindNamed(readBytes_.get(), start, read_, name);
+        if (found < read_) {
+            return found;
         }
     }
-    return -1;
+    if (name.empty() && start < firstAdded_ && read_ < firstAdded_) {
+        return std::max(start, read_);
+    }
+    const std::int32_t found =
+        FindNamed(addedBytes_.data(), std::max(start - firstAdded_, 0), added_, name);
+    return found < added_ ? firstAdded_ + found : -1;
 }
 
 std::string WadDirectory::Encode(const WadLumpEntry& entry) {

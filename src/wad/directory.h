@@ -25,28 +25,6 @@ struct WadLumpEntry {
 /// are no part of it.
 std::string StripLumpName(const char* field);
 
-/// Whether that name is `name`, which has no blank at either end.
-inline bool LumpNameIs(const char* field, std::string_view name) {
-    const auto isPadding = [](char character) { return character == '\0' || character == ' '; };
-    std::size_t at = 0;
-    while (at < lumpNameLength && isPadding(field[at])) {
-        ++at;
-    }
-    if (name.size() > lumpNameLength - at) {
-        return false;
-    }
-    for (const char wanted : name) {
-        if ((field[at] == '\0' ? ' ' : field[at]) != wanted) {
-            return false;
-        }
-        ++at;
-    }
-    while (at < lumpNameLength && isPadding(field[at])) {
-        ++at;
-    }
-    return at == lumpNameLength;
-}
-
 /// Entries that a file's header promises and its end cuts off are counted but take no memory: they
 /// are nameless, empty and at position 0.
 class WadDirectory {
@@ -60,15 +38,15 @@ class WadDirectory {
     void Clear() { *this = {}; }
 
     std::int32_t Count() const { return firstAdded_ + added_; }
-    /// The entries from 0 up to this number are the ones whose bytes are here. No later one was
-    /// stored in the file.
+    /// No entry from this index on has a name or bytes.
     std::int32_t StoredCount() const { return added_ > 0 ? Count() : read_; }
     /// An entry; an index that there is not gives one that is nameless and empty.
     WadLumpEntry Entry(std::int32_t index) const;
     /// The eight characters of the entry's name.
     const char* NameField(std::int32_t index) const { return Bytes(index) + 8; }
-    /// Index of the first entry of that name (no blank at either end), or -1.
-    std::int32_t Find(std::string_view name) const;
+    /// Index of the first entry from `start` on (not negative) whose cleaned name is `name`, which
+    /// has no blank at either end, or -1.
+    std::int32_t Find(std::string_view name, std::int32_t start = 0) const;
 
     /// The bytes that stand for an entry in a file: the name without blanks at both ends, filled up
     /// with NULs.

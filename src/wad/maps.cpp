@@ -2,34 +2,33 @@
 
 namespace {
 
-constexpr std::int32_t lumpsOfAMap = 10;
+constexpr int lumpsOfAMap = 10;
 
-bool IsMap(const WadDirectory& directory, std::int32_t lump) {
-    return LumpNameIs(directory.NameField(lump + 1), "THINGS");
+/// Index of the map at or behind `start`, or a negative number.
+std::int32_t NextMap(const clsWad& wad, std::int32_t start) {
+    return wad.Directory().Find("THINGS", start + 1) - 1;
 }
 
 }  // namespace
 
 std::vector<std::string> MapNames(const clsWad& wad) {
-    const WadDirectory& directory = wad.Directory();
     std::vector<std::string> names;
-    for (std::int32_t lump = 0; lump + 1 < directory.StoredCount(); ++lump) {
-        if (IsMap(directory, lump)) {
-            names.push_back(wad.LumpName(lump));
-            lump += lumpsOfAMap;
-        }
+    const auto lumps = static_cast<std::size_t>(wad.Directory().StoredCount());
+    names.reserve(lumps / (lumpsOfAMap + 1) + 1);
+    for (std::int32_t map = NextMap(wad, 0); map >= 0; map = NextMap(wad, map + lumpsOfAMap + 1)) {
+        names.push_back(wad.LumpName(map));
     }
     return names;
 }
 
 std::string LowestMap(const clsWad& wad) {
-    const WadDirectory& directory = wad.Directory();
     const std::string noMapYet(lumpNameLength, '\xFF');
     std::string lowest = noMapYet;
-    for (std::int32_t lump = 0; lump + 1 < directory.StoredCount(); ++lump) {
-        if (IsMap(directory, lump) && wad.LumpName(lump) < lowest) {
-            lowest = wad.LumpName(lump);
-            lump += lumpsOfAMap;
+    for (std::int32_t map = NextMap(wad, 0); map >= 0; map = NextMap(wad, map + 1)) {
+        const std::string name = wad.LumpName(map);
+        if (name < lowest) {
+            lowest = name;
+            map += lumpsOfAMap;
         }
     }
     return lowest == noMapYet ? std::string() : lowest;

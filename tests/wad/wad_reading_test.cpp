@@ -69,8 +69,8 @@ TEST_F(WadReading, NamesAreCleaned) {
     std::int32_t index = 0;
     for (const auto& [field, name] : rows) {
         EXPECT_EQ(wad.LumpName(index), name);
-        EXPECT_TRUE(LumpNameIs(wad.Directory().NameField(index), name)) << name;
-        EXPECT_FALSE(LumpNameIs(wad.Directory().NameField(index), name + "x")) << name;
+        EXPECT_EQ(wad.Directory().Find(name, index), index) << name;
+        EXPECT_EQ(wad.Directory().Find(name + "x", index), -1) << name;
         ++index;
     }
     for (const auto& [asked, found] : {std::pair(" map01 ", 0),
