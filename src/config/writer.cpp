@@ -1,18 +1,28 @@
 #include "config/writer.h"
 
+#include <array>
 #include <span>
 #include <vector>
 
 namespace {
 
+/// For each character the letter that stands for it behind a backslash, 0 where it needs none.
+constexpr auto escapes = [] {
+    std::array<char, 256> table{};
+    table['\\'] = '\\';
+    table['\n'] = 'n';
+    table['\r'] = 'r';
+    table['\t'] = 't';
+    table['"'] = '"';
+    return table;
+}();
+
 void AppendEscaped(std::string& output, std::string_view text) {
-    constexpr std::string_view special = "\\\n\r\t\"";
-    constexpr std::string_view letters = "\\nrt\"";
     std::size_t start = 0;
     for (std::size_t at = 0; at < text.size(); ++at) {
-        const std::size_t which = special.find(text[at]);
-        if (which != std::string_view::npos) {
-            output.append(text, start, at - start).append({'\\', letters[which]});
+        const char letter = escapes[static_cast<unsigned char>(text[at])];
+        if (letter != '\0') {
+            output.append(text, start, at - start).append({'\\', letter});
             start = at + 1;
         }
     }
