@@ -32,10 +32,8 @@ void Walk(const clsWad& wad) {
 }
 
 void Extend(clsWad& wad) {
-    std::vector<std::string> names;
-    for (std::int32_t lump = 0; lump < wad.Directory().Count(); ++lump) {
-        names.push_back(wad.LumpName(lump));
-    }
+    std::vector<std::string> names(static_cast<std::size_t>(wad.Directory().Count()));
+    std::ranges::generate(names, [&, lump = 0]() mutable { return wad.LumpName(lump++); });
     if (!wad.AddLump("added", "0123456789")) {
         return;
     }
