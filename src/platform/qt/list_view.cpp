@@ -1,4 +1,6 @@
 #include <QAbstractTableModel>
+#include <QFontMetrics>
+#include <QGuiApplication>
 #include <QHeaderView>
 #include <QMouseEvent>
 #include <QScopedValueRollback>
@@ -23,6 +25,10 @@ class EntryModel final : public QAbstractTableModel {
     int columnCount(const QModelIndex&) const override { return 2; }
 
     QVariant data(const QModelIndex& index, int role) const override {
+        if (role == Qt::SizeHintRole) {
+            // As roomy as the rows of a list box.
+            return QSize(0, QFontMetrics(QGuiApplication::font()).height() * 3 / 2);
+        }
         const bool isText = role == Qt::DisplayRole || role == Qt::ToolTipRole;
         if (!isText || !index.isValid() || index.row() >= list_.RowCount()) {
             return {};
@@ -104,7 +110,7 @@ class ListViewWidget final : public QTreeView, public NativeControl {
 
     void resizeEvent(QResizeEvent* event) override {
         QTreeView::resizeEvent(event);
-        header()->resizeSection(0, viewport()->width() * 2 / 5);
+        header()->resizeSection(0, width() * 2 / 5);
     }
 
   private:
