@@ -33,7 +33,7 @@ std::string Read(const std::string& file) {
 }
 
 std::string Write(const std::string& name, const std::string& bytes) {
-    const std::string file = folder + "\\" + name;
+    std::string file = folder + "\\" + name;
     fs::create_directories(Native(file).parent_path());
     std::ofstream(Native(file), std::ios::binary) << bytes;
     return file;

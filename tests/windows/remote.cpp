@@ -168,9 +168,10 @@ std::string TextOf(HWND control) {
 }
 
 std::vector<std::string> RowsOf(HWND listBox) {
-    std::vector<std::string> rows;
-    for (int row = 0; row < SendMessageW(listBox, LB_GETCOUNT, 0, 0); ++row) {
-        rows.push_back(ItemText(listBox, row));
+    std::vector<std::string> rows(
+        static_cast<std::size_t>(SendMessageW(listBox, LB_GETCOUNT, 0, 0)));
+    for (std::size_t row = 0; row < rows.size(); ++row) {
+        rows[row] = ItemText(listBox, static_cast<int>(row));
     }
     return rows;
 }
@@ -205,7 +206,7 @@ void AnswerFolderDialog(const std::string& folder) {
 std::string AnswerMessage() {
     const HWND dialog = WaitForWindow(DialogClass, "Zorvane");
     constexpr int MessageText = 0xffff;
-    const std::string text = TextOf(GetDlgItem(dialog, MessageText));
+    std::string text = TextOf(GetDlgItem(dialog, MessageText));
     TakePicture(dialog, "message");
     PostMessageW(dialog, WM_COMMAND, IDOK, 0);
     WaitUntilGone(dialog);

@@ -53,7 +53,8 @@ void Metrics::MakeFonts() {
         {Face::Link, 100, false, true},
     };
     for (const auto& row : rows) {
-        fonts_[static_cast<int>(row.face)] = MakeFont(body, row.percent, row.bold, row.underlined);
+        fonts_[static_cast<std::size_t>(row.face)] =
+            MakeFont(body, row.percent, row.bold, row.underlined);
     }
 }
 

@@ -1,6 +1,7 @@
 // Sizes and fonts of a window at the density of its screen.
 #pragma once
 
+#include <array>
 #include <string>
 
 #include "platform/win32/handles.h"
@@ -19,7 +20,7 @@ class Metrics {
   public:
     explicit Metrics(int density);
 
-    HFONT Font(Face face) const { return fonts_[static_cast<int>(face)].get(); }
+    HFONT Font(Face face) const { return fonts_[static_cast<std::size_t>(face)].get(); }
     /// Dialog units as pixels.
     RECT Pixels(const toolkit::Place& place) const;
     /// Pixels that a text takes across.
@@ -34,7 +35,7 @@ class Metrics {
     void Measure();
 
     int density_;
-    OwnedFont fonts_[5];
+    std::array<OwnedFont, 5> fonts_;
     // Four and eight times a unit: the average width and the height of a character.
     int characterWidth_ = 0;
     int characterHeight_ = 0;
