@@ -7,8 +7,10 @@ namespace {
 class NativeFrame : public NativeControl {
   public:
     NativeFrame(NativeWindow& parent, toolkit::Control& frame)
-        : NativeControl(parent, frame, {WC_BUTTONW, BS_GROUPBOX | WS_CLIPSIBLINGS, 0, Face::Bold}) {
-    }
+        // It draws its edge alone; being transparent, it leaves the rest to the window beneath.
+        : NativeControl(
+              parent, frame,
+              {WC_BUTTONW, BS_GROUPBOX | WS_CLIPSIBLINGS, WS_EX_TRANSPARENT, Face::Bold}) {}
 
   protected:
     std::wstring CaptionText() const override { return WithoutMnemonics(Shown().Caption()); }
