@@ -30,7 +30,9 @@ bool ShellExecuteExA(ShellExecuteInfo& info) {
 }
 
 std::uint32_t WaitForSingleObject(const ProcessHandle& process, std::uint32_t milliseconds) {
-    return ::WaitForSingleObject(reinterpret_cast<HANDLE>(process.Native()), milliseconds);
+    // To Windows -1 is this process itself, which would be waited for in vain.
+    return process ? ::WaitForSingleObject(reinterpret_cast<HANDLE>(process.Native()), milliseconds)
+                   : WAIT_FAILED;
 }
 
 }  // namespace platform
