@@ -17,7 +17,7 @@ class ButtonWidget : public QPushButton, public NativeControl {
     ButtonWidget(toolkit::Button& button, QWidget& parent) : QPushButton(&parent), button_(button) {
         setAutoDefault(false);
         setDefault(button.Has(toolkit::Default));
-        DrawContent(Aspect::Caption, -1);
+        ButtonWidget::DrawContent(Aspect::Caption, -1);
         connect(this, &QPushButton::clicked, this, [this] { button_.UserClicks(); });
     }
 

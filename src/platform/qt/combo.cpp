@@ -20,7 +20,7 @@ class ComboWidget : public QComboBox, public NativeControl {
         setModel(&items_);
         setMaxVisibleItems(rowsOfOpenList);
         setSizeAdjustPolicy(AdjustToMinimumContentsLengthWithIcon);
-        DrawContent(Aspect::Selection, -1);
+        ComboWidget::DrawContent(Aspect::Selection, -1);
         connect(this, &QComboBox::activated, this, [this](int row) { combo_.UserSelects(row); });
     }
 

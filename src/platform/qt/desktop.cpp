@@ -174,7 +174,8 @@ double UnitsPerPixelY() {
 
 void StartDesktop(int& argumentCount, char** arguments) {
     // Never destroyed: a process that ends with windows open has no good moment for that.
-    new QApplication(argumentCount, arguments);
+    [[maybe_unused]] static const auto* const application =
+        new QApplication(argumentCount, arguments);
     QApplication::setApplicationName(QStringLiteral("Zorvane"));
     QApplication::setDesktopFileName(QStringLiteral("zorvane"));
     QApplication::setWindowIcon(qt::ProgramIcon());
