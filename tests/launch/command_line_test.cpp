@@ -5,85 +5,53 @@
 namespace {
 
 TEST(CommandLine, WarpArguments) {
-    const struct {
-        const char* map;
-        const char* arguments;
-    } rows[] = {
-        {"MAP01", "-warp 1"},
-        {"map30", "-warp 30"},
-        {"E1M1", "-warp 1 1"},
-        {"e4m9", "-warp 4 9"},
-        {"EXMY", "-warp 0 0"},
-        {"MAPAB", "-warp 0"},
-        {"MAP1A", "-warp 1"},
-        {"MAP1", "+map MAP1"},
-        {"MAP100", "+map MAP100"},
-        {"E1M10", "+map E1M10"},
-        {"start", "+map START"},
-        {"", "+map "},
-        {"E\xff"
-         "M1",
-         "-warp 0 1"},
-        {" E1M1", "+map  E1M1"},
+    const std::pair<const char*, const char*> rows[] = {
+        {"MAP01", "-warp 1"},    {"map30", "-warp 30"},    {"E1M1", "-warp 1 1"},
+        {"e4m9", "-warp 4 9"},   {"EXMY", "-warp 0 0"},    {"MAPAB", "-warp 0"},
+        {"MAP1A", "-warp 1"},    {"MAP1", "+map MAP1"},    {"MAP100", "+map MAP100"},
+        {"E1M10", "+map E1M10"}, {"start", "+map START"},  {"", "+map "},
+        {" E1M1", "+map  E1M1"}, {"E\377M1", "-warp 0 1"},
     };
-    for (const auto& row : rows) {
-        EXPECT_EQ(WarpArguments(row.map), row.arguments) << row.map;
+    for (const auto& [map, arguments] : rows) {
+        EXPECT_EQ(WarpArguments(map), arguments) << map;
     }
 }
 
-TEST(CommandLine, RemoveExtension) {
-    EXPECT_EQ(RemoveExtension("D:\\demos\\run.1.lmp"), "D:\\demos\\run.1");
-    EXPECT_EQ(RemoveExtension("D:\\my.demos\\run1"), "D:\\my");
-    EXPECT_EQ(RemoveExtension("plain"), "plain");
-}
-
-class QuickStartLine : public Session {
-  protected:
-    QuickStartLine() {
-        EngineRecord engine;
-        engine.parameters = {{"No sound", "-noSound"}, {"Two", "-Two"}, {"Three", "-three"}};
-        Engines.push_back(engine);
-        start.gameWad = "D:\\iwads\\game.wad";
-    }
-    std::string Line() const { return QuickStartCommandLine(start, files); }
-
-    QuickStart start;
-    clsStringArray files;
+struct EngineLine : Session {
+    EngineLine() { Engines.emplace_back().parameters = {{"", "-noSound"}, {"", "-2"}, {"", "-3"}}; }
 };
 
-TEST_F(QuickStartLine, SwitchesStandInTheirOrderAndInLowerCase) {
-    EngineAt(0).options[2] = EngineAt(0).options[0] = true;
-    EngineAt(0).options[9] = true;
-    EXPECT_EQ(EngineParameterString(0), "-nosound -three");
-    EXPECT_EQ(LaunchCommandLine(0, "D:\\a b.wad"), "-nosound -three -iwad D:\\a b.wad");
-    EngineAt(0).options = {};
-    EXPECT_EQ(EngineParameterString(0), "");
+TEST_F(EngineLine, SwitchesStandInTheirOrderAndInLowerCase) {
     EXPECT_EQ(LaunchCommandLine(0, "D:\\a.wad"), " -iwad D:\\a.wad");
+    EngineAt(0).options[2] = EngineAt(0).options[0] = EngineAt(0).options[9] = true;
+    EXPECT_EQ(LaunchCommandLine(0, "D:\\a b.wad"), "-nosound -3 -iwad D:\\a b.wad");
 }
 
-TEST_F(QuickStartLine, IsRightBlankForBlank) {
+TEST_F(EngineLine, QuickStartIsRightBlankForBlank) {
+    clsStringArray files;
+    QuickStart start;
+    start.gameWad = "D:\\iwads\\game.wad";
     start.skill = 2;
     start.map = "E1M1";
-    EXPECT_EQ(Line(), " -iwad \"D:\\iwads\\game.wad\" -skill 3 -warp 1 1  ") << "nothing chosen";
-    start.recordTo = "D:\\engines\\port.old\\temp.lmp";
-    start.playFrom = "D:\\demos\\run.lmp";
-    EXPECT_TRUE(Line().ends_with("-warp 1 1 -record \"D:\\engines\\port.old\\temp\" "));
-    start.recordTo.clear();
-    EXPECT_TRUE(Line().ends_with("-warp 1 1 -playdemo \"D:\\demos\\run.lmp\" "));
-    start.playFrom.clear();
-
+    EXPECT_EQ(QuickStartCommandLine(start, files),
+              " -iwad \"D:\\iwads\\game.wad\" -skill 3 -warp 1 1  ");
     EngineAt(0).options[0] = true;
     files.Add("D:\\wads\\Castle.wad");
     files.Add("D:\\wads\\patch.deh");
-    start.skill = 3;
     start.noMonsters = start.fastMonsters = true;
     start.map = "MAP07";
     start.parameters = "-turbo 120";
-    EXPECT_EQ(Line(),
-              "-nosound -file \"D:\\wads\\Castle.wad\" \"D:\\wads\\patch.deh\"  -iwad "
-              "\"D:\\iwads\\game.wad\" -skill 4 -nomonsters -fast -warp 7  -turbo 120");
+    const std::string head =
+        "-nosound -file \"D:\\wads\\Castle.wad\" \"D:\\wads\\patch.deh\"  "
+        "-iwad \"D:\\iwads\\game.wad\" -skill 3 -nomonsters -fast ";
+    EXPECT_EQ(QuickStartCommandLine(start, files), head + "-warp 7  -turbo 120");
     start.respawnMonsters = true;
-    EXPECT_NE(Line().find("-fast -respawn -warp"), std::string::npos);
+    start.playFrom = "D:\\demos\\run.lmp";
+    EXPECT_EQ(QuickStartCommandLine(start, files),
+              head + "-respawn -warp 7 -playdemo \"D:\\demos\\run.lmp\" -turbo 120");
+    start.recordTo = "D:\\engines\\port.old\\temp.lmp";
+    EXPECT_EQ(QuickStartCommandLine(start, files),
+              head + "-respawn -warp 7 -record \"D:\\engines\\port.old\\temp\" -turbo 120");
 }
 
 }  // namespace
