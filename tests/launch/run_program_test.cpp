@@ -11,7 +11,7 @@ memory::StartedProgram& Started() {
     return memory::machine.started.back();
 }
 
-int Run(std::string file, bool wait = false) {
+int Open(std::string file, bool wait = false) {
     const int result = RunProgram(file, "-x", ShowMaximized, wait);
     EXPECT_EQ(file, Started().file) << "the caller's text follows";
     return result;
@@ -19,13 +19,13 @@ int Run(std::string file, bool wait = false) {
 
 TEST_F(Running, CompletesBareNamesAndStartsInTheFilesFolder) {
     folder.Write("readme.txt", "");
-    Run("readme.txt");
+    Open("readme.txt");
     EXPECT_EQ(Started().file, folder.Path("readme.txt"));
     EXPECT_EQ(Started().directory, folder.Path() + "\\");
-    Run(folder.Write("port/game.exe", ""));
+    Open(folder.Write("port/game.exe", ""));
     EXPECT_EQ(Started().directory, folder.Path("port\\"));
     for (const char* taken : {"D:readme.txt", "docs/readme.txt", "https://example.org/a"}) {
-        Run(taken);
+        Open(taken);
         EXPECT_EQ(Started().file, taken);
     }
     EXPECT_EQ(Started().directory, "") << "a URL has no folder";
@@ -37,11 +37,11 @@ TEST_F(Running, WaitsOnlyWhenToldAndLetsTheWindowsLive) {
     memory::machine.onEvents = [&] { ++rounds; };
     memory::machine.rounds = 5;
     memory::machine.accepts = false;
-    EXPECT_EQ(Run("a.exe", true), 0);
+    EXPECT_EQ(Open("a.exe", true), 0);
     memory::machine.accepts = true;
-    EXPECT_NE(Run("a.exe"), 0);
+    EXPECT_NE(Open("a.exe"), 0);
     EXPECT_EQ(rounds, 0) << "nothing to wait for";
-    EXPECT_NE(Run("a.exe", true), 0);
+    EXPECT_NE(Open("a.exe", true), 0);
     EXPECT_EQ(rounds, 5);
 }
 
