@@ -2,27 +2,8 @@
 
 #include <gtest/gtest.h>
 
-namespace {
-
-std::string KeysOf(const ConfigMap& map) {
-    std::string keys;
-    for (const std::string& key : map.Keys()) {
-        keys += key + ",";
-    }
-    return keys;
-}
-
-ConfigMapRef NestedTo(int depth) {
-    auto map = std::make_shared<ConfigMap>();
-    for (int level = 0; level < depth; ++level) {
-        auto outer = std::make_shared<ConfigMap>();
-        outer->Add("", map);
-        map = outer;
-    }
-    return map;
-}
-
-}  // namespace
+#include "config/reader.h"
+#include "config/writer.h"
 
 TEST(ConfigMap, KeepsItsOrderThroughEveryChange) {
     ConfigMap map;
@@ -33,34 +14,30 @@ TEST(ConfigMap, KeepsItsOrderThroughEveryChange) {
     EXPECT_TRUE(map.Item("looked for").IsNothing());
     map.Item("b") = "replaced";
     EXPECT_EQ(map.Find("absent"), nullptr);
-    EXPECT_EQ(KeysOf(map), "b,B,,looked for,");
-    EXPECT_EQ(map.Items()[0].AsText(), "replaced");
     EXPECT_TRUE(map.Remove("B"));
     EXPECT_FALSE(map.Remove("B"));
-    EXPECT_EQ(KeysOf(map), "b,,looked for,");
-    EXPECT_EQ(map.Count(), 3);
+    EXPECT_EQ(OutputBlock(map, 0, "", false), R"(b="replaced";=3;looked for="";)");
     map.RemoveAll();
     EXPECT_EQ(map.Count(), 0);
     EXPECT_FALSE(map.Exists("b"));
 }
 
 TEST(ConfigMap, TakesEntriesWithRepeatedKeys) {
-    for (const int others : {0, 100}) {
+    for (const int count : {4, 200}) {
         std::vector<ConfigEntry> entries;
-        for (const auto& [key, number] : {std::pair("a", 1), {"b", 2}, {"a", 3}, {"c", 4}}) {
-            entries.push_back({key, number});
+        for (int place = 0; place < count; ++place) {
+            entries.push_back({place % 2 == 0 ? "even" : std::to_string(place), place});
         }
-        for (int other = 0; other < others; ++other) {
-            entries.push_back({std::to_string(other % (others / 2)), other});
-        }
-        entries.push_back({"b", 5});
         const ConfigMap map(std::move(entries));
-        EXPECT_EQ(map.Count(), 3 + others / 2);
-        EXPECT_EQ(KeysOf(map).substr(0, 6), "a,b,c,");
-        EXPECT_EQ(map.Find("a")->AsWhole(), 3);
-        EXPECT_EQ(map.Find("b")->AsWhole(), 5);
-        EXPECT_EQ(map.Items()[static_cast<std::size_t>(map.Count() - 1)].AsWhole(),
-                  others > 0 ? others - 1 : 4);
+        ASSERT_EQ(map.Count(), 1 + count / 2);
+        EXPECT_EQ(map.Keys()[0], "even");
+        EXPECT_EQ(map.Find("even")->AsWhole(), count - 2);
+        int place = 1;
+        for (const ConfigEntry& entry : map.Entries().subspan(1)) {
+            EXPECT_EQ(entry.key, std::to_string(place));
+            EXPECT_EQ(map.Find(entry.key)->AsWhole(), place);
+            place += 2;
+        }
     }
 }
 
@@ -72,31 +49,30 @@ TEST(ConfigMap, HoldsAMillionKeysAndLetsThemGo) {
     }
     for (int key = 0; key < keys; ++key) {
         ASSERT_EQ(map.Find(std::to_string(key))->AsWhole(), key);
-        if (key % 3 != 0) {
-            ASSERT_TRUE(map.Remove(std::to_string(key)));
-        }
+        ASSERT_TRUE(key % 3 == 0 || map.Remove(std::to_string(key)));
     }
-    ASSERT_EQ(map.Count(), (keys + 2) / 3);
-    map.Item("1") = 1;
+    map.Item("1") = keys + 2;
+    ASSERT_EQ(map.Count(), (keys + 2) / 3 + 1);
     int place = 0;
-    for (const ConfigEntry& entry : map.Entries().first((keys + 2) / 3)) {
+    for (const ConfigEntry& entry : map.Entries()) {
         ASSERT_EQ(entry.value.AsWhole(), place);
         ASSERT_TRUE(map.Exists(entry.key));
         place += 3;
     }
-    EXPECT_EQ(map.Entries().back().key, "1");
     for (int key = 0; key < keys; ++key) {
         map.Remove(std::to_string(key));
     }
     EXPECT_EQ(map.Count(), 0);
 }
 
-TEST(ConfigMap, IsSharedByReferenceAndCopiedDeeply) {
-    ConfigMapRef root = NestedTo(1'000'000);
-    const ConfigMapRef inner = root->Find("")->AsMap();
+TEST(ConfigMap, AMillionOpenBracesAreReadCopiedSharedWrittenAndLetGo) {
+    const std::string opened(1'000'000, '{');
+    std::size_t position = 0;
+    ConfigMapRef root = ParseBlock(position, opened);
     const ConfigMapRef copy = CopyBlock(*root);
-    copy->Find("")->AsMap()->Item("new") = 1;
-    EXPECT_FALSE(inner->Exists("new"));
-    root->Item("") = 5;  // lets go of all but what is held here
+    const ConfigMapRef inner = root->Find("")->AsMap();
+    root.reset();  // lets go of all but what is held here
     EXPECT_EQ(inner->Find("")->AsMap()->Count(), 1);
+    inner->Item("new") = 1;
+    EXPECT_EQ(OutputBlock(*copy, 0, "", false), opened + std::string(opened.size(), '}'));
 }
