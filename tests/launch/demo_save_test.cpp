@@ -13,6 +13,7 @@ struct DemoSave : Session {
         frmDemoSave.DemoFileName = folder.Write("temp.lmp", "demo");
         frmDemoSave.DemoExt = "lmp";
     }
+    ~DemoSave() override { frmDemoSave.Unload(); }
     static void Show(std::function<void()> steps) {
         driver::InNextModal(std::move(steps));
         frmDemoSave.ShowModal();
