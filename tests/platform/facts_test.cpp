@@ -6,21 +6,14 @@
 
 namespace {
 
-TEST(Facts, NameTheProgramsOwnFolder) {
+TEST(Facts, AreTheProgramsOwn) {
     const std::string folder = platform::ProgramDirectory();
     EXPECT_FALSE(folder.ends_with('\\'));
     EXPECT_FALSE(platform::ListFiles(folder, "test_platform*").empty()) << folder;
-}
-
-TEST(Facts, EndProcessLeavesNothingToDo) {
-    EXPECT_EXIT(platform::EndProcess(), testing::ExitedWithCode(0), "");
-}
-
-TEST(Facts, TellTheProjectsVersion) {
-    const platform::VersionNumbers version = platform::ProgramVersion();
-    EXPECT_EQ(std::to_string(version.major) + '.' + std::to_string(version.minor) + '.' +
-                  std::to_string(version.revision),
+    const auto [major, minor, revision] = platform::ProgramVersion();
+    EXPECT_EQ(std::to_string(major) + '.' + std::to_string(minor) + '.' + std::to_string(revision),
               PROJECT_VERSION_TEXT);
+    EXPECT_EXIT(platform::EndProcess(), testing::ExitedWithCode(0), "");
 }
 
 }  // namespace

@@ -63,6 +63,9 @@ TEST(Files, OnlyRegularFilesAreOrdinary) {
 
 TEST(Files, AreListedByPatternInNameOrder) {
     const TempFolder folder;
+    const std::string foreign = "jeu \xc3\xa9t\xc3\xa9 \xe4\xb8\xad.lmp";
+    EXPECT_TRUE(platform::ReplaceWholeFile(folder.Path() + '\\' + foreign, "x"));
+    EXPECT_EQ(platform::LookUpFileName(folder.Path() + '\\' + foreign), foreign);
     for (const char* name : {"b.cfg", "A.CFG", "_.cfg", "c.cfg2", "cfg", "a.b.cfg", "z.txt"}) {
         folder.Write(name, "");
     }
@@ -75,6 +78,7 @@ TEST(Files, AreListedByPatternInNameOrder) {
         {"?.cfg", {"A.CFG", "b.cfg", "_.cfg"}},
         {"*.*.cfg", {"a.b.cfg"}},
         {"Z.TXT", {"z.txt"}},
+        {"*.lmp", {foreign}},
         {"*.wad", {}},
     };
     for (const auto& row : rows) {
@@ -90,6 +94,7 @@ TEST(WholeFiles, TakeThePlaceOfTheOldOne) {
     EXPECT_TRUE(platform::ReplaceWholeFile(folder.Path("new.cfg"), "first"));
     EXPECT_EQ(folder.Read("new.cfg"), "first");
     EXPECT_TRUE(platform::ReplaceWholeFile(folder.Path("NEW.cfg"), bytes));
+    const std::ofstream otherProgram(folder.Native("new.cfg"), std::ios::app);
     EXPECT_EQ(platform::ReadWholeFile(folder.Path("new.cfg"), outcome), bytes);
     EXPECT_TRUE(outcome);
     EXPECT_EQ(folder.Count(), 1);
@@ -102,19 +107,14 @@ TEST(WholeFiles, TakeThePlaceOfTheOldOne) {
 
 TEST(WholeFiles, AreCopiedAndRemoved) {
     const TempFolder folder;
-    const std::string from = folder.Write("temp.lmp", std::string(200000, 'd'));
-    folder.Write("old.lmp", "old");
-    EXPECT_TRUE(platform::CopyWholeFile(from, folder.Path("old.lmp")));
-    EXPECT_EQ(folder.Read("old.lmp"), std::string(200000, 'd'));
-
-    const Outcome onItself = platform::CopyWholeFile(from, folder.Path("TEMP.lmp"));
-    EXPECT_FALSE(onItself);
-    EXPECT_FALSE(onItself.reason.empty());
-    EXPECT_EQ(folder.Read("temp.lmp").size(), 200000U);
+    const std::string bytes(200000, 'd');
+    const std::string from = folder.Write("temp.lmp", bytes);
+    const std::string to = folder.Write("old.lmp", "old");
+    EXPECT_TRUE(platform::CopyWholeFile(from, to));
+    EXPECT_FALSE(platform::CopyWholeFile(from, folder.Path("TEMP.lmp")).reason.empty());
     EXPECT_FALSE(platform::CopyWholeFile(from, folder.Path("none/a.lmp")));
-    EXPECT_FALSE(platform::CopyWholeFile(folder.Path("none.lmp"), folder.Path("old.lmp")));
-    EXPECT_EQ(folder.Read("old.lmp").size(), 200000U);
-
+    EXPECT_FALSE(platform::CopyWholeFile(folder.Path("none.lmp"), to));
+    EXPECT_TRUE(folder.Read("old.lmp") == bytes && folder.Read("temp.lmp") == bytes);
     EXPECT_TRUE(platform::RemoveFile(folder.Path("Temp.lmp")));
     EXPECT_FALSE(platform::RemoveFile(from));
     EXPECT_EQ(folder.Count(), 1);

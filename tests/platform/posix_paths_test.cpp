@@ -6,13 +6,8 @@
 
 namespace {
 
-using Texts = std::vector<std::string>;
-
 TEST(Paths, BecomeNativeAtTheDoor) {
-    const struct {
-        const char* path;
-        std::optional<std::string> native;
-    } rows[] = {
+    const std::pair<const char*, std::optional<std::string>> rows[] = {
         {R"(Z:\home\u\doom.wad)", "/home/u/doom.wad"},
         {R"(z:\)", "/"},
         {"Z:", "/"},
@@ -24,26 +19,23 @@ TEST(Paths, BecomeNativeAtTheDoor) {
         {"D:readme.txt", std::nullopt},
         {"", std::nullopt},
     };
-    for (const auto& row : rows) {
-        EXPECT_EQ(platform::NativePath(row.path), row.native) << row.path;
+    for (const auto& [path, native] : rows) {
+        EXPECT_EQ(platform::NativePath(path), native) << path;
     }
     EXPECT_EQ(platform::NativePath(std::string_view("/a\0b", 4)), std::nullopt);
     EXPECT_EQ(platform::WindowsPath("/home/u/doom.wad"), R"(Z:\home\u\doom.wad)");
 }
 
 TEST(Paths, AreShownNative) {
-    const struct {
-        const char* text;
-        const char* shown;
-    } rows[] = {
+    const std::pair<const char*, const char*> rows[] = {
         {R"(Z:\home\u)", "/home/u"},
         {R"(Demo: z:\a\b.lmp)", "Demo: /a/b.lmp"},
         {"a\\b\nsee Z:\\c\\d e\\f\r\ng\\h", "a\\b\nsee /c/d e/f\r\ng\\h"},
         {R"(-iwad "Z:\a b" -file "Z:\c")", R"(-iwad "/a b" -file "/c")"},
         {R"(C:\a Z: Z:/ z)", R"(C:\a Z: Z:/ z)"},
     };
-    for (const auto& row : rows) {
-        EXPECT_EQ(platform::NativeText(row.text), row.shown);
+    for (const auto& [text, shown] : rows) {
+        EXPECT_EQ(platform::NativeText(text), shown);
     }
 }
 
@@ -54,18 +46,15 @@ TEST(Paths, AreFoundWhateverTheCase) {
         folder.Write(name, "");
     }
     std::filesystem::create_symlink("nowhere", folder.Native("loose"));
-    const struct {
-        const char* path;
-        std::optional<std::string> found;
-    } rows[] = {
+    const std::pair<const char*, std::optional<std::string>> rows[] = {
         {"Maps/b.wad", "/Maps/b.wad"}, {"maps/x", "/MAPS/x"},
         {"maps/b.wad", std::nullopt},  // the first folder decides
         {"Maps/b.WAD", "/Maps/B.WAD"}, {"LOOSE", "/loose"},
         {"PORT/game", "/port/Game"},   {"port/game/x", std::nullopt},
     };
-    for (const auto& row : rows) {
-        const auto found = platform::FindPath(folder.Path(row.path));
-        EXPECT_EQ(found, row.found ? std::optional(root + *row.found) : std::nullopt) << row.path;
+    for (const auto& [path, found] : rows) {
+        const auto native = found ? std::optional(root + *found) : std::nullopt;
+        EXPECT_EQ(platform::FindPath(folder.Path(path)), native) << path;
     }
     EXPECT_EQ(platform::TargetPath(folder.Path("PORT/New.lmp")), root + "/port/New.lmp");
     EXPECT_EQ(platform::FindProgram(folder.Path("port/game.EXE")), root + "/port/Game");
@@ -83,10 +72,7 @@ TEST(Paths, UrlsAreTold) {
 }
 
 TEST(Arguments, AreSplitAtBlanksOutsideQuotes) {
-    const struct {
-        const char* text;
-        Texts arguments;
-    } rows[] = {
+    const std::pair<const char*, std::vector<std::string>> rows[] = {
         {"", {}},
         {"   ", {}},
         {" -iwad  a.wad ", {"-iwad", "a.wad"}},
@@ -99,8 +85,8 @@ TEST(Arguments, AreSplitAtBlanksOutsideQuotes) {
         {R"("Z:\no such\a b" z:\n -xZ:\n C:\n +map)",
          {"/no such/a b", "/n", R"(-xZ:\n)", R"(C:\n)", "+map"}},
     };
-    for (const auto& row : rows) {
-        EXPECT_EQ(platform::SplitArguments(row.text), row.arguments) << row.text;
+    for (const auto& [text, arguments] : rows) {
+        EXPECT_EQ(platform::SplitArguments(text), arguments) << text;
     }
 }
 

@@ -28,27 +28,18 @@ QLineEdit* Field() {
     return fileName != nullptr ? fileName : Dialog()->findChild<QLineEdit*>();
 }
 
-/// Types into the dialog's line, as an input method does, and presses Enter.
-void Answer(const QString& text) {
+/// Types into the dialog's line, as an input method does, and presses Enter; no text is Cancel.
+void Answer(const std::string& text) {
+    if (text.empty()) {
+        QTest::keyClick(Dialog(), Qt::Key_Escape);
+        return;
+    }
     QLineEdit* field = Field();
     field->selectAll();
     QInputMethodEvent typed;
-    typed.setCommitString(text);
+    typed.setCommitString(QString::fromStdString(text));
     QApplication::sendEvent(field, &typed);
     QTest::keyClick(field, Qt::Key_Return);
-}
-
-void Cancel() {
-    QTest::keyClick(Dialog(), Qt::Key_Escape);
-}
-
-platform::OpenFileName Record(const TempFolder& folder, std::uint32_t flags) {
-    return {.lpstrFilter = "WAD files (*.wad)\0*.wad\0All files (*.*)\0*.*"s,
-            .lpstrFile = std::string(platform::FileBufferSize, '\0'),
-            .nMaxFile = platform::FileBufferSize,
-            .lpstrInitialDir = folder.Path(),
-            .lpstrTitle = "Pick",
-            .Flags = flags};
 }
 
 std::string Buffer(std::string text, std::size_t size = platform::FileBufferSize) {
@@ -56,111 +47,90 @@ std::string Buffer(std::string text, std::size_t size = platform::FileBufferSize
     return text;
 }
 
-class Dialogs : public testing::Test {
-  protected:
-    Dialogs() {
-        folder.Write("a.wad", "");
-        folder.Write("B.WAD", "");
-        folder.Write("notes.txt", "");
-        folder.Write("sub/c.wad", "");
+TEST(Dialogs, FillTheRecordWithTheFilesPicked) {
+    const TempFolder folder;
+    for (const char* name : {"a.wad", "B.WAD", "notes.txt", "sub/c.wad"}) {
+        folder.Write(name, "");
     }
-    TempFolder folder;
-};
-
-TEST_F(Dialogs, GiveOneFileOrItsCancelling) {
-    platform::OpenFileName record = Record(folder, platform::OfnFileMustExist);
-    QString title;
-    QString name = QStringLiteral("?");
-    QString filter;
-    QStringList shown;
-    driver::InNextModal([&] {
-        const auto* dialog = qobject_cast<QFileDialog*>(Dialog());
-        title = dialog->windowTitle();
-        name = Field()->text();
-        filter = dialog->selectedNameFilter();
-        Answer(QStringLiteral("a.wad"));
-    });
-    EXPECT_TRUE(platform::GetOpenFileNameA(record));
-    EXPECT_EQ(record.lpstrFile, Buffer(folder.Path("a.wad")));
-    EXPECT_EQ(title.toStdString(), "Pick");
-    EXPECT_EQ(name.toStdString(), "") << "the name field starts empty";
-    EXPECT_TRUE(filter.startsWith(QStringLiteral("WAD files (*.wad)"))) << filter.toStdString();
-    record = Record(folder, platform::OfnFileMustExist);
-    driver::InNextModal(Cancel);
-    EXPECT_FALSE(platform::GetOpenFileNameA(record));
+    constexpr std::uint32_t Several = platform::OfnFileMustExist | platform::OfnAllowMultiSelect;
+    const struct {
+        bool (*show)(platform::OpenFileName&);
+        std::uint32_t flags;
+        std::string typed;
+        std::string picked;
+    } rows[] = {
+        {platform::GetOpenFileNameA, platform::OfnFileMustExist, "a.wad", folder.Path("a.wad")},
+        {platform::GetOpenFileNameA, platform::OfnFileMustExist, "", ""},
+        {platform::GetOpenFileNameA, Several, R"("a.wad" "B.WAD")",
+         folder.Path() + "\0a.wad\0B.WAD"s},
+        {platform::GetOpenFileNameA, Several, "sub/c.wad", folder.Path("sub\\c.wad")},
+        {platform::GetOpenFileNameA, 0, "new.wad", folder.Path("new.wad")},
+        {platform::GetSaveFileNameA, 0, "a.wad", folder.Path("a.wad")},
+        {platform::GetSaveFileNameA, platform::OfnOverwritePrompt, "a.wad", folder.Path("a.wad")},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.typed);
+        platform::OpenFileName record = {
+            .lpstrFilter = "WAD files (*.wad)\0*.wad\0All files (*.*)\0*.*"s,
+            .lpstrFile = Buffer(""),
+            .nMaxFile = platform::FileBufferSize,
+            .lpstrInitialDir = folder.Path(),
+            .lpstrTitle = "Pick",
+            .Flags = row.flags};
+        driver::InNextModal([&] {
+            const auto* dialog = qobject_cast<QFileDialog*>(Dialog());
+            EXPECT_EQ(dialog->windowTitle(), QStringLiteral("Pick"));
+            EXPECT_EQ(Field()->text().toStdString(), "") << "the name field starts empty";
+            EXPECT_TRUE(dialog->selectedNameFilter().startsWith(QStringLiteral("WAD files (")));
+            Answer(row.typed);
+        });
+        bool wasAsked = false;
+        if (row.flags == platform::OfnOverwritePrompt) {
+            driver::InNextModal([&] {
+                wasAsked = true;
+                qobject_cast<QMessageBox*>(Dialog())->button(QMessageBox::Yes)->click();
+            });
+        }
+        EXPECT_EQ(row.show(record), !row.picked.empty());
+        EXPECT_EQ(record.lpstrFile, Buffer(row.picked));
+        EXPECT_EQ(wasAsked, row.flags == platform::OfnOverwritePrompt);
+    }
 }
 
-TEST_F(Dialogs, GiveSeveralFilesAsFolderAndNames) {
-    platform::OpenFileName record =
-        Record(folder, platform::OfnFileMustExist | platform::OfnAllowMultiSelect);
-    driver::InNextModal([] { Answer(QStringLiteral("\"a.wad\" \"B.WAD\"")); });
-    EXPECT_TRUE(platform::GetOpenFileNameA(record));
-    EXPECT_EQ(record.lpstrFile, Buffer(folder.Path() + "\0a.wad\0B.WAD"s));
-    record = Record(folder, platform::OfnAllowMultiSelect);
-    driver::InNextModal([] { Answer(QStringLiteral("sub/c.wad")); });
-    EXPECT_TRUE(platform::GetOpenFileNameA(record));
-    EXPECT_EQ(record.lpstrFile, Buffer(folder.Path("sub\\c.wad")));
-}
-
-TEST_F(Dialogs, AskBeforeAFileIsWrittenOverOnlyWhenToldTo) {
-    platform::OpenFileName record = Record(folder, 0);
-    driver::InNextModal([] { Answer(QStringLiteral("a.wad")); });
-    EXPECT_TRUE(platform::GetSaveFileNameA(record));
-    record = Record(folder, platform::OfnOverwritePrompt);
-    int questions = 0;
-    driver::InNextModal([&] { Answer(QStringLiteral("a.wad")); });
+TEST(Dialogs, ChooseFolders) {
+    const TempFolder folder;
     driver::InNextModal([&] {
-        ++questions;
-        qobject_cast<QMessageBox*>(Dialog())->button(QMessageBox::Yes)->click();
-    });
-    EXPECT_TRUE(platform::GetSaveFileNameA(record));
-    EXPECT_EQ(questions, 1);
-    EXPECT_EQ(record.lpstrFile, Buffer(folder.Path("a.wad")));
-}
-
-TEST_F(Dialogs, ChooseFolders) {
-    QString instruction;
-    const std::string sub = folder.Native("sub").string();
-    driver::InNextModal([&] {
+        QString instruction;
         for (const auto* label : Dialog()->findChildren<QLabel*>()) {
             instruction += label->text() + QLatin1Char('|');
         }
-        Answer(QString::fromStdString(sub));
+        EXPECT_TRUE(instruction.contains(QStringLiteral("In which folder?|")));
+        Answer(folder.Native().string());
     });
     EXPECT_EQ(platform::BrowseForFolderPath({nullptr, "In which folder?"}),
-              Buffer(folder.Path("sub"), platform::FolderBufferSize));
-    EXPECT_TRUE(instruction.contains(QStringLiteral("In which folder?|")));
-    driver::InNextModal(Cancel);
+              Buffer(folder.Path(), platform::FolderBufferSize));
+    driver::InNextModal([] { Answer(""); });
     EXPECT_EQ(platform::BrowseForFolderPath({nullptr, "x"}), "");
 }
 
 TEST(Messages, ShowTheirExactText) {
-    QString text;
-    QString title;
-    driver::InNextModal([&] {
+    driver::InNextModal([] {
         const auto* box = qobject_cast<QMessageBox*>(Dialog());
-        text = box->text();
-        title = box->windowTitle();
-        Cancel();
+        EXPECT_EQ(box->text().toStdString(), "One <b>\n/two");
+        EXPECT_EQ(box->windowTitle().toStdString(), "Zorvane");
+        Answer("");
     });
     platform::ShowMessage("One <b>\r\nZ:\\two", "Zorvane", platform::MessageIcon::Critical);
-    EXPECT_EQ(text.toStdString(), "One <b>\n/two");
-    EXPECT_EQ(title.toStdString(), "Zorvane");
 }
 
 TEST(Messages, AskForALine) {
-    QString preset;
-    const auto answer = [&](const char* typed) {
-        return [&preset, typed] {
-            preset = Field()->selectedText();
-            typed != nullptr ? Answer(QString::fromUtf8(typed)) : Cancel();
-        };
-    };
-    driver::InNextModal(answer("d\xC3\xB6"));
-    EXPECT_EQ(platform::AskForText("Name?", "Enter a name", "Doom"), "d\xC3\xB6");
-    EXPECT_EQ(preset.toStdString(), "Doom") << "is selected, so that typing replaces it";
-    driver::InNextModal(answer(nullptr));
-    EXPECT_EQ(platform::AskForText("Name?", "Enter a name", "Doom"), "");
+    for (const char* typed : {"d\xC3\xB6", ""}) {
+        driver::InNextModal([&] {
+            EXPECT_EQ(Field()->selectedText().toStdString(), "Doom") << "typing replaces it";
+            Answer(typed);
+        });
+        EXPECT_EQ(platform::AskForText("Name?", "Enter a name", "Doom"), typed);
+    }
     driver::InNextModal([] { QTest::keyClick(Dialog()->focusWidget(), Qt::Key_Return); });
     EXPECT_EQ(platform::AskForText("Name?", "Enter a name", "caf\xE9"), "caf\xE9")
         << "what was not touched keeps its bytes";
@@ -172,13 +142,10 @@ TEST(PickedFiles, FillTheBufferOfTheRecord) {
         std::vector<std::string> paths;
         std::string text;  // empty: counts as Cancel
     } cases[] = {
-        {{"Z:\\a.wad"}, "Z:\\a.wad"},
         {{"Z:\\a.wad", "Z:\\b.wad"}, "Z:\\\0a.wad\0b.wad"s},
-        {{"Z:\\w\\a.wad", "Z:\\w\\b.wad"}, "Z:\\w\0a.wad\0b.wad"s},
         {{"Z:\\v\\a.wad", "Z:\\w\\b.wad"}, ""},
         {{longName}, longName},
         {{longName + "x"}, ""},
-        {{}, ""},
     };
     for (const auto& [paths, text] : cases) {
         platform::OpenFileName record;

@@ -14,25 +14,19 @@
 
 namespace driver {
 
-/// Presses and releases the left button on a button, a check box or a link.
-void Click(toolkit::Control& control);
-/// Chooses a row, counted as the control counts.
-void Choose(toolkit::ItemControl& list, int row);
-void Choose(toolkit::ListView& list, int row);
-/// Double clicks a row.
-void DoubleClick(toolkit::ListBox& list, int row);
-void DoubleClick(toolkit::ListView& list, int row);
-/// Clicks a row of a list box with the right button.
-void RightClick(toolkit::ListBox& list, int row);
+enum class Mouse { Move, Click, RightClick, DoubleClick };
+/// Uses the mouse over a row of a list, counted as the control counts, over any other control near
+/// its left end, where a check box can be pressed.
+void Use(Mouse gesture, toolkit::Control& control, int row = 0);
+/// Moves the pointer over the bare window.
+void PointAt(toolkit::Window& window);
+/// Chooses a row of any kind of list.
+void Choose(toolkit::Control& list, int row);
 /// Replaces the text of a text box or an edit field by typing.
 void Type(toolkit::Control& control, const std::string& text);
-/// Moves the pointer over a control, for a list box over the given row; over the bare window.
-void PointAt(toolkit::Control& control, int row = 0);
-void PointAt(toolkit::Window& window);
-/// Keys, sent to whatever has the focus in the window.
-void PressEnter(toolkit::Window& window);
-void PressEscape(toolkit::Window& window);
-void PressTab(toolkit::Window& window);
+/// Presses a key, sent to whatever has the focus in the window.
+enum class Key : char { Tab = '\t', Enter = '\r', Escape = '\x1b' };
+void Press(toolkit::Window& window, Key key);
 /// Asks to close the window by its frame.
 void Close(toolkit::Window& window);
 
@@ -42,15 +36,52 @@ void InNextModal(std::function<void()> steps);
 void AtNextMenu(int row);
 
 /// What the screen shows of a control. Paths are native, as they are drawn.
-std::string ShownText(const toolkit::Control& control);
-std::vector<std::string> ShownItems(const toolkit::Control& control);
-int ShownIndex(const toolkit::Control& control);
-bool ShownChecked(const toolkit::CheckBox& box);
-bool ShownEnabled(const toolkit::Control& control);
-bool ShownVisible(const toolkit::Control& control);
-bool ShownWindow(const toolkit::Window& window);
+struct Look {
+    std::string text = {};                // caption, or text of a field
+    std::vector<std::string> items = {};  // columns are parted by |
+    int index = -1;                       // of the selected row, as the control counts
+    bool checked = false;
+    bool enabled = true;
+    bool visible = true;
+};
+Look LookAt(const toolkit::Control& control);
+/// The caption on the frame of a window, nothing while the window is hidden.
 std::string ShownCaption(const toolkit::Window& window);
 /// Name of the control that has the focus, empty when none has it.
 std::string Focused(const toolkit::Window& window);
+
+inline void Click(toolkit::Control& control) {
+    Use(Mouse::Click, control);
+}
+inline void RightClick(toolkit::Control& list, int row) {
+    Use(Mouse::RightClick, list, row);
+}
+inline void DoubleClick(toolkit::Control& list, int row) {
+    Use(Mouse::DoubleClick, list, row);
+}
+inline void PointAt(toolkit::Control& control, int row = 0) {
+    Use(Mouse::Move, control, row);
+}
+inline void PressEnter(toolkit::Window& window) {
+    Press(window, Key::Enter);
+}
+inline void PressEscape(toolkit::Window& window) {
+    Press(window, Key::Escape);
+}
+inline void PressTab(toolkit::Window& window) {
+    Press(window, Key::Tab);
+}
+inline std::string ShownText(const toolkit::Control& control) {
+    return LookAt(control).text;
+}
+inline std::vector<std::string> ShownItems(const toolkit::Control& control) {
+    return LookAt(control).items;
+}
+inline bool ShownChecked(const toolkit::Control& control) {
+    return LookAt(control).checked;
+}
+inline bool ShownEnabled(const toolkit::Control& control) {
+    return LookAt(control).enabled;
+}
 
 }  // namespace driver

@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <utility>
 
 #include "platform/shell.h"
 
@@ -12,12 +11,7 @@ namespace memory {
 Machine machine;
 
 std::string TakeMessage() {
-    if (machine.messages.empty()) {
-        return {};
-    }
-    std::string text = machine.messages.front().text;
-    machine.messages.erase(machine.messages.begin());
-    return text;
+    return machine.messages.empty() ? std::string() : TakeFront(machine.messages).text;
 }
 
 void Reset() {
@@ -37,9 +31,7 @@ std::string Next(std::deque<std::string>& answers, const std::string& question) 
         ADD_FAILURE() << "unexpected question: " << question;
         return {};
     }
-    std::string answer = std::move(answers.front());
-    answers.pop_front();
-    return answer;
+    return TakeFront(answers);
 }
 
 bool AnswerFileDialog(platform::OpenFileName& record) {
@@ -59,7 +51,6 @@ using memory::machine;
 
 namespace platform {
 
-void RememberArguments(int, char**) {}
 std::string ProgramDirectory() {
     return machine.programDirectory;
 }

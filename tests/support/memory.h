@@ -5,6 +5,7 @@
 #include <deque>
 #include <functional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "platform/dialogs.h"
@@ -37,7 +38,7 @@ struct Machine {
     std::string commandLine;
     platform::VersionNumbers version{1, 0, 61};
 
-    std::vector<Message> messages;
+    std::deque<Message> messages;
 
     std::deque<std::string> files;    // chosen in file dialogs, empty for Cancel
     std::deque<std::string> folders;  // chosen in folder dialogs
@@ -59,6 +60,13 @@ struct ProcessEnded {};
 
 /// A fresh machine; fails the test when the old one has messages, answers or steps left over.
 void Reset();
+
+template <class Element>
+Element TakeFront(std::deque<Element>& queue) {
+    Element front = std::move(queue.front());
+    queue.pop_front();
+    return front;
+}
 
 /// The oldest message that was shown, taken out of the list; an empty text when there is none.
 std::string TakeMessage();

@@ -1,8 +1,6 @@
 // Windows in memory, and what a person does there.
 #include <gtest/gtest.h>
 
-#include <deque>
-
 #include "driver.h"
 #include "memory.h"
 #include "platform/desktop.h"
@@ -11,38 +9,39 @@ namespace {
 
 std::deque<std::function<void()>> modalSteps;
 std::deque<int> menuChoices;
-const toolkit::Control* focused = nullptr;
+toolkit::Control* focused = nullptr;
 
 /// Rows of a list box are this high, for the hit test.
 constexpr int RowHeight = 16;
 constexpr int ListWidth = 200;
 constexpr int ListHeight = 160;
 
-template <typename Queue>
-auto TakeFront(Queue& queue) {
-    auto front = queue.front();
-    queue.pop_front();
-    return front;
+template <class Kind>
+Kind* As(toolkit::Control& control) {
+    return dynamic_cast<Kind*>(&control);
+}
+template <class Kind>
+const Kind* As(const toolkit::Control& control) {
+    return dynamic_cast<const Kind*>(&control);
 }
 
 toolkit::Button* ButtonWith(const toolkit::Window& window, toolkit::Flag flag) {
     for (toolkit::Control* control : window.Controls()) {
         if (control->Has(flag)) {
-            return dynamic_cast<toolkit::Button*>(control);
+            return As<toolkit::Button>(*control);
         }
     }
     return nullptr;
 }
 
 /// The control behind `tab` in the tab order, or the first one.
-const toolkit::Control* NextInTabOrder(const toolkit::Window& window, int tab) {
-    using toolkit::Kind;
-    const toolkit::Control* next = nullptr;
-    for (const toolkit::Control* control : window.Controls()) {
-        const bool takesFocus = control->Row().tab > tab && control->Enabled() &&
-                                control->Visible() && control->GetKind() != Kind::Label &&
-                                control->GetKind() != Kind::Frame;
-        if (takesFocus && (next == nullptr || control->Row().tab < next->Row().tab)) {
+toolkit::Control* NextInTabOrder(const toolkit::Window& window, int tab) {
+    toolkit::Control* next = nullptr;
+    for (toolkit::Control* control : window.Controls()) {
+        const bool takesFocus =
+            control->Enabled() && control->Visible() && control->GetKind() != toolkit::Kind::Label;
+        if (takesFocus && control->Row().tab > tab &&
+            (next == nullptr || control->Row().tab < next->Row().tab)) {
             next = control;
         }
     }
@@ -63,10 +62,6 @@ void ShowWindow(toolkit::Window& window) {
 void HideWindow(toolkit::Window&) {}
 void RepaintWindow(toolkit::Window&) {}
 void DrawCaption(toolkit::Window&) {}
-void StartDesktop(int&, char**) {}
-int RunEventLoop() {
-    return 0;
-}
 double UnitsPerPixelX() {
     return 1;
 }
@@ -75,12 +70,12 @@ double UnitsPerPixelY() {
 }
 
 void RunModal(toolkit::Window& window) {
-    const toolkit::Control* opener = focused;
+    toolkit::Control* opener = focused;
     focused = NextInTabOrder(window, -1);
     if (modalSteps.empty()) {
         ADD_FAILURE() << "unexpected window: " << window.Caption();
     } else {
-        TakeFront(modalSteps)();
+        memory::TakeFront(modalSteps)();
     }
     if (window.Visible()) {
         ADD_FAILURE() << "still open: " << window.Caption();
@@ -95,19 +90,16 @@ void Draw(toolkit::Control& control, Aspect aspect, int) {
     }
 }
 
-std::uint32_t ItemFromPoint(const toolkit::ListBox& list, int x, int y) {
+std::uint32_t ItemFromPoint(const toolkit::ListBox&, int x, int y) {
     constexpr std::uint32_t Outside = 0x10000;
-    if (x < 0 || y < 0 || x >= ListWidth || y >= ListHeight) {
-        return Outside;
-    }
-    (void)list;
-    return static_cast<std::uint32_t>(y / RowHeight);
+    const bool isInside = x >= 0 && y >= 0 && x < ListWidth && y < ListHeight;
+    return isInside ? static_cast<std::uint32_t>(y / RowHeight) : Outside;
 }
 
 void ShowPopupMenu(toolkit::Window&, toolkit::PopupMenu& menu) {
     if (menuChoices.empty()) {
         ADD_FAILURE() << "unexpected menu: " << menu.Caption();
-    } else if (const int choice = TakeFront(menuChoices); choice >= 0) {
+    } else if (const int choice = memory::TakeFront(menuChoices); choice >= 0) {
         menu.Items().at(static_cast<std::size_t>(choice))->UserClicks();
     }
 }
@@ -122,73 +114,61 @@ void DoEvents() {
 
 namespace driver {
 
-void Click(toolkit::Control& control) {
-    if (auto* box = dynamic_cast<toolkit::CheckBox*>(&control)) {
+void Use(Mouse gesture, toolkit::Control& control, int row) {
+    const double height = row * RowHeight + 1;
+    if (gesture == Mouse::Move) {
+        control.UserMovesPointer(1, height);
+    } else if (gesture == Mouse::RightClick) {
+        control.UserReleasesButton(2, 1, height);
+    } else if (auto* box = As<toolkit::CheckBox>(control)) {
         box->UserChecks(!box->Checked());
-    } else if (auto* label = dynamic_cast<toolkit::Label*>(&control)) {
+    } else if (auto* label = As<toolkit::Label>(control)) {
         label->UserClicks();
+    } else if (auto* button = As<toolkit::Button>(control)) {
+        button->UserClicks();
     } else {
-        dynamic_cast<toolkit::Button&>(control).UserClicks();
+        Choose(control, row);
+        auto* view = As<toolkit::ListView>(control);
+        view != nullptr ? view->UserDoubleClicks()
+                        : As<toolkit::ListBox>(control)->UserDoubleClicks();
     }
-}
-
-void Choose(toolkit::ItemControl& list, int row) {
-    list.UserSelects(row);
-}
-void Choose(toolkit::ListView& list, int row) {
-    list.UserSelects(row);
-}
-
-void DoubleClick(toolkit::ListBox& list, int row) {
-    list.UserSelects(row);
-    list.UserDoubleClicks();
-}
-
-void DoubleClick(toolkit::ListView& list, int row) {
-    list.UserSelects(row);
-    list.UserDoubleClicks();
-}
-
-void RightClick(toolkit::ListBox& list, int row) {
-    list.UserReleasesButton(2, 1, row * RowHeight + 1);
-}
-
-void Type(toolkit::Control& control, const std::string& text) {
-    if (auto* combo = dynamic_cast<toolkit::ComboBox*>(&control)) {
-        combo->UserTypes(text);
-    } else {
-        dynamic_cast<toolkit::TextBox&>(control).UserTypes(text);
-    }
-}
-
-void PointAt(toolkit::Control& control, int row) {
-    control.UserMovesPointer(1, row * RowHeight + 1);
 }
 
 void PointAt(toolkit::Window& window) {
     window.UserMovesPointer();
 }
 
-void PressEnter(toolkit::Window& window) {
-    auto* button = dynamic_cast<const toolkit::Button*>(focused);
-    toolkit::Button* pressed = button != nullptr
-                                   ? dynamic_cast<toolkit::Button*>(window.Find(button->Row().name))
-                                   : ButtonWith(window, toolkit::Default);
-    if (pressed != nullptr) {
-        pressed->UserClicks();
+void Choose(toolkit::Control& list, int row) {
+    if (auto* view = As<toolkit::ListView>(list)) {
+        view->UserSelects(row);
+    } else {
+        dynamic_cast<toolkit::ItemControl&>(list).UserSelects(row);
     }
 }
 
-void PressEscape(toolkit::Window& window) {
-    if (toolkit::Button* cancel = ButtonWith(window, toolkit::Cancel)) {
-        cancel->UserClicks();
+void Type(toolkit::Control& control, const std::string& text) {
+    if (auto* combo = As<toolkit::ComboBox>(control)) {
+        combo->UserTypes(text);
     } else {
+        dynamic_cast<toolkit::TextBox&>(control).UserTypes(text);
+    }
+}
+
+void Press(toolkit::Window& window, Key key) {
+    if (key == Key::Tab) {
+        focused = NextInTabOrder(window, focused == nullptr ? -1 : focused->Row().tab);
+        return;
+    }
+    const bool isEnter = key == Key::Enter;
+    toolkit::Button* button = ButtonWith(window, isEnter ? toolkit::Default : toolkit::Cancel);
+    if (isEnter && focused != nullptr && focused->GetKind() == toolkit::Kind::Button) {
+        button = As<toolkit::Button>(*focused);
+    }
+    if (button != nullptr) {
+        button->UserClicks();
+    } else if (!isEnter) {
         window.UserCloses();
     }
-}
-
-void PressTab(toolkit::Window& window) {
-    focused = NextInTabOrder(window, focused == nullptr ? -1 : focused->Row().tab);
 }
 
 void Close(toolkit::Window& window) {
@@ -201,52 +181,33 @@ void AtNextMenu(int row) {
     menuChoices.push_back(row);
 }
 
-std::string ShownText(const toolkit::Control& control) {
-    if (const auto* combo = dynamic_cast<const toolkit::ComboBox*>(&control)) {
-        return combo->Text();
-    }
-    if (const auto* list = dynamic_cast<const toolkit::DropDownList*>(&control)) {
-        return list->Text();
-    }
-    const auto* text = dynamic_cast<const toolkit::TextBox*>(&control);
-    return text != nullptr ? text->Text() : control.Caption();
-}
-
-std::vector<std::string> ShownItems(const toolkit::Control& control) {
-    std::vector<std::string> items;
-    if (const auto* view = dynamic_cast<const toolkit::ListView*>(&control)) {
+Look LookAt(const toolkit::Control& control) {
+    Look look = {
+        .text = control.Caption(), .enabled = control.Enabled(), .visible = control.Visible()};
+    if (const auto* box = As<toolkit::CheckBox>(control)) {
+        look.checked = box->Checked();
+    } else if (const auto* field = As<toolkit::TextBox>(control)) {
+        look.text = field->Text();
+    } else if (const auto* view = As<toolkit::ListView>(control)) {
+        look.index = view->SelectedRow();
         for (int row = 1; row <= view->RowCount(); ++row) {
-            items.push_back(view->At(row).first + "|" + view->At(row).second);
+            look.items.push_back(view->At(row).first + "|" + view->At(row).second);
         }
-    } else {
-        const auto& list = dynamic_cast<const toolkit::ItemControl&>(control);
-        for (int row = 0; row < list.ListCount(); ++row) {
-            items.push_back(list.List(row));
+    } else if (const auto* list = As<toolkit::ItemControl>(control)) {
+        const auto* combo = As<toolkit::ComboBox>(control);
+        look.index = list->ListIndex();
+        for (int row = 0; row < list->ListCount(); ++row) {
+            look.items.push_back(list->List(row));
         }
+        look.text = combo != nullptr  ? combo->Text()
+                    : look.index >= 0 ? list->List(look.index)
+                                      : std::string();
     }
-    return items;
+    return look;
 }
 
-int ShownIndex(const toolkit::Control& control) {
-    const auto* view = dynamic_cast<const toolkit::ListView*>(&control);
-    return view != nullptr ? view->SelectedRow()
-                           : dynamic_cast<const toolkit::ItemControl&>(control).ListIndex();
-}
-
-bool ShownChecked(const toolkit::CheckBox& box) {
-    return box.Checked();
-}
-bool ShownEnabled(const toolkit::Control& control) {
-    return control.Enabled();
-}
-bool ShownVisible(const toolkit::Control& control) {
-    return control.Visible();
-}
-bool ShownWindow(const toolkit::Window& window) {
-    return window.Visible();
-}
 std::string ShownCaption(const toolkit::Window& window) {
-    return window.Caption();
+    return window.Visible() ? window.Caption() : std::string();
 }
 
 std::string Focused(const toolkit::Window& window) {

@@ -1,16 +1,14 @@
-// The driver on real Qt widgets: mouse events go to the native window, which finds the widget under
-// them, keys to the widget that has the focus.
+// The driver on real Qt widgets: mouse and keys go to the native window, which finds the widget
+// under the pointer or with the focus.
 #include <QApplication>
 #include <QComboBox>
 #include <QLabel>
-#include <QLineEdit>
 #include <QListView>
 #include <QMenu>
 #include <QPushButton>
 #include <QTest>
 #include <QTimer>
-#include <QTreeView>
-#include <queue>
+#include <deque>
 
 #include "driver.h"
 #include "platform/qt/native_window.h"
@@ -18,102 +16,58 @@
 
 namespace {
 
+using platform::qt::Encode;
 using platform::qt::NativeWindow;
 
 NativeWindow& NativeOf(const toolkit::Window& window) {
     return *platform::qt::MakeNative(const_cast<toolkit::Window&>(window));
 }
 
-QWidget& WidgetOf(const toolkit::Control& control) {
-    return NativeOf(control.Owner()).Find(control).Widget();
-}
-
-template <class Widget>
+template <class Widget = QWidget>
 Widget* As(const toolkit::Control& control) {
-    return dynamic_cast<Widget*>(&WidgetOf(control));
+    return dynamic_cast<Widget*>(&NativeOf(control.Owner()).Find(control).Widget());
 }
 
-/// A point of a widget as one of its native window.
-QPoint InWindow(const QWidget& widget, QPoint point) {
-    return widget.mapTo(widget.window(), point);
+/// The first row, as the control counts.
+int FirstRow(const toolkit::Control& control) {
+    return control.GetKind() == toolkit::Kind::ListView ? 1 : 0;
 }
 
-QPoint MiddleOfRow(QAbstractItemView& view, int row) {
-    const QModelIndex index = view.model()->index(row, 0);
-    view.scrollTo(index);
-    return InWindow(*view.viewport(), view.visualRect(index).center());
-}
-
-/// Over a list its row, over anything else near its left end, where a check box can be pressed.
-QPoint PointOf(const toolkit::Control& control, int row = 0) {
+/// Where the mouse is used, as a point of the native window.
+QPoint PointOf(const toolkit::Control& control, int row) {
+    const QWidget* widget = As(control);
+    QPoint point(8, widget->height() / 2);
     if (auto* view = As<QAbstractItemView>(control)) {
-        return MiddleOfRow(*view, row);
+        const QModelIndex index = view->model()->index(row - FirstRow(control), 0);
+        view->scrollTo(index);
+        point = view->visualRect(index).center();
+        widget = view->viewport();
     }
-    const QWidget& widget = WidgetOf(control);
-    return InWindow(widget, QPoint(8, widget.height() / 2));
-}
-
-void ClickAt(const toolkit::Window& window, QPoint point, Qt::MouseButton button = Qt::LeftButton) {
-    QTest::mouseClick(NativeOf(window).windowHandle(), button, Qt::NoModifier, point);
+    return widget->mapTo(widget->window(), point);
 }
 
 /// A move that ends where the pointer is already would be none.
-void MoveTo(const toolkit::Window& window, QPoint point) {
-    QTest::mouseMove(NativeOf(window).windowHandle(), point - QPoint(1, 1));
-    QTest::mouseMove(NativeOf(window).windowHandle(), point);
+void MoveTo(const NativeWindow& window, QPoint point) {
+    QTest::mouseMove(window.windowHandle(), point - QPoint(1, 1));
+    QTest::mouseMove(window.windowHandle(), point);
     QApplication::processEvents();
 }
 
-void PressKey(toolkit::Window& window, Qt::Key key) {
-    NativeWindow& native = NativeOf(window);
-    QTest::keyClick(native.focusWidget() != nullptr ? native.focusWidget() : &native, key);
-}
-
-void ChooseInCombo(QComboBox& combo, int row) {
-    combo.setFocus();
-    combo.showPopup();
-    QWidget* open = combo.view();
-    QTest::keyClick(open, Qt::Key_Home);
-    for (int i = 0; i < row; ++i) {
-        QTest::keyClick(open, Qt::Key_Down);
-    }
-    QTest::keyClick(open, Qt::Key_Return);
-}
-
-QLineEdit* FieldOf(const toolkit::Control& control) {
-    const auto* combo = As<QComboBox>(control);
-    return combo != nullptr ? combo->lineEdit() : As<QLineEdit>(control);
-}
-
-std::string WithAccessKeys(QString text) {
-    return platform::qt::Encode(text.replace(QLatin1String("&&"), QLatin1String("&")));
-}
-
-/// Waits for modal windows and runs what was queued for each.
+/// Runs the queued steps, each inside the next modal window that is shown.
 class ModalWatcher final : public QObject {
   public:
-    void Add(std::function<void()> steps) {
-        if (queue_.empty()) {
-            qApp->installEventFilter(this);
-        }
-        queue_.push(std::move(steps));
-    }
+    std::deque<std::function<void()>> queue;
 
   protected:
     bool eventFilter(QObject* watched, QEvent* event) override {
         const auto* widget = qobject_cast<QWidget*>(watched);
-        if (event->type() == QEvent::Show && widget != nullptr && widget->isModal()) {
-            QTimer::singleShot(0, std::move(queue_.front()));
-            queue_.pop();
-            if (queue_.empty()) {
-                qApp->removeEventFilter(this);
-            }
+        if (event->type() == QEvent::Show && widget != nullptr && widget->isModal() &&
+            !queue.empty()) {
+            QTimer::singleShot(0, std::move(queue.front()));
+            queue.pop_front();
         }
         return false;
     }
-
-  private:
-    std::queue<std::function<void()>> queue_;
 };
 
 void ChooseInMenu(int row) {
@@ -129,68 +83,61 @@ void ChooseInMenu(int row) {
     menu->close();
 }
 
+std::vector<std::string> ItemsOf(const QAbstractItemModel& model) {
+    std::vector<std::string> items;
+    for (int row = 0; row < model.rowCount(); ++row) {
+        items.push_back(Encode(model.index(row, 0).data().toString()));
+        if (model.columnCount() > 1) {
+            items.back() += '|' + Encode(model.index(row, 1).data().toString());
+        }
+    }
+    return items;
+}
+
 }  // namespace
 
 namespace driver {
 
-void Click(toolkit::Control& control) {
-    ClickAt(control.Owner(), PointOf(control));
-}
-
-void Choose(toolkit::ItemControl& list, int row) {
-    if (auto* combo = As<QComboBox>(list)) {
-        ChooseInCombo(*combo, row);
+void Use(Mouse gesture, toolkit::Control& control, int row) {
+    const NativeWindow& window = NativeOf(control.Owner());
+    const QPoint point = PointOf(control, row);
+    if (gesture == Mouse::Move) {
+        MoveTo(window, point);
+    } else if (gesture == Mouse::DoubleClick) {
+        QTest::mouseDClick(window.windowHandle(), Qt::LeftButton, Qt::NoModifier, point);
     } else {
-        ClickAt(list.Owner(), PointOf(list, row));
+        const auto button = gesture == Mouse::RightClick ? Qt::RightButton : Qt::LeftButton;
+        QTest::mouseClick(window.windowHandle(), button, Qt::NoModifier, point);
     }
-}
-
-void Choose(toolkit::ListView& list, int row) {
-    ClickAt(list.Owner(), PointOf(list, row - 1));
-}
-
-void DoubleClick(toolkit::ListBox& list, int row) {
-    QTest::mouseDClick(NativeOf(list.Owner()).windowHandle(), Qt::LeftButton, Qt::NoModifier,
-                       PointOf(list, row));
-}
-
-void DoubleClick(toolkit::ListView& list, int row) {
-    QTest::mouseDClick(NativeOf(list.Owner()).windowHandle(), Qt::LeftButton, Qt::NoModifier,
-                       PointOf(list, row - 1));
-}
-
-void RightClick(toolkit::ListBox& list, int row) {
-    ClickAt(list.Owner(), PointOf(list, row), Qt::RightButton);
-}
-
-void Type(toolkit::Control& control, const std::string& text) {
-    QLineEdit* field = FieldOf(control);
-    field->setFocus();
-    field->selectAll();
-    QTest::keyClick(field, Qt::Key_Delete);
-    QTest::keyClicks(field, QString::fromStdString(text));
-}
-
-void PointAt(toolkit::Control& control, int row) {
-    MoveTo(control.Owner(), PointOf(control, row));
 }
 
 /// The lower right corner of a window is bare.
 void PointAt(toolkit::Window& window) {
-    const NativeWindow& native = NativeOf(window);
-    MoveTo(window, QPoint(native.width() - 1, native.height() - 1));
+    MoveTo(NativeOf(window), NativeOf(window).rect().bottomRight());
 }
 
-void PressEnter(toolkit::Window& window) {
-    PressKey(window, Qt::Key_Return);
+void Choose(toolkit::Control& list, int row) {
+    auto* combo = As<QComboBox>(list);
+    if (combo == nullptr) {
+        Use(Mouse::Click, list, row);
+        return;
+    }
+    combo->setFocus();
+    combo->showPopup();
+    combo->view()->setCurrentIndex(combo->model()->index(row, 0));
+    QTest::keyClick(combo->view(), Qt::Key_Return);
 }
 
-void PressEscape(toolkit::Window& window) {
-    PressKey(window, Qt::Key_Escape);
+void Type(toolkit::Control& control, const std::string& text) {
+    QWidget* field = As(control);
+    field->setFocus();
+    QTest::keyClick(field, Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClick(field, Qt::Key_Delete);
+    QTest::keyClicks(field, QString::fromStdString(text));
 }
 
-void PressTab(toolkit::Window& window) {
-    PressKey(window, Qt::Key_Tab);
+void Press(toolkit::Window& window, Key key) {
+    QTest::keyClick(NativeOf(window).windowHandle(), static_cast<char>(key));
 }
 
 void Close(toolkit::Window& window) {
@@ -199,79 +146,46 @@ void Close(toolkit::Window& window) {
 
 void InNextModal(std::function<void()> steps) {
     static ModalWatcher watcher;
-    watcher.Add(std::move(steps));
+    qApp->installEventFilter(&watcher);
+    watcher.queue.push_back(std::move(steps));
 }
 
 void AtNextMenu(int row) {
     QTimer::singleShot(0, [row] { ChooseInMenu(row); });
 }
 
-std::string ShownText(const toolkit::Control& control) {
-    if (const auto* label = As<QLabel>(control)) {
-        return label->buddy() != nullptr ? WithAccessKeys(label->text())
-                                         : platform::qt::Encode(label->text());
-    }
-    if (const auto* button = As<QAbstractButton>(control)) {
-        return WithAccessKeys(button->text());
-    }
-    if (const QLineEdit* field = FieldOf(control)) {
-        return platform::qt::Encode(field->text());
-    }
+Look LookAt(const toolkit::Control& control) {
+    const auto* widget = As(control);
+    const auto* label = As<QLabel>(control);
+    const auto* button = As<QAbstractButton>(control);
     const auto* combo = As<QComboBox>(control);
-    return combo != nullptr ? platform::qt::Encode(combo->currentText()) : std::string();
-}
-
-std::vector<std::string> ShownItems(const toolkit::Control& control) {
     const auto* view = As<QAbstractItemView>(control);
-    const auto* combo = As<QComboBox>(control);
-    const QAbstractItemModel& model = view != nullptr ? *view->model() : *combo->model();
-    std::vector<std::string> items;
-    for (int row = 0; row < model.rowCount(); ++row) {
-        QStringList columns;
-        for (int column = 0; column < model.columnCount(); ++column) {
-            columns.append(model.index(row, column).data().toString());
+    QString text = widget->property(combo != nullptr ? "currentText" : "text").toString();
+    Look look = {.enabled = widget->isEnabled(), .visible = widget->isVisible()};
+    if (combo != nullptr) {
+        look.items = ItemsOf(*combo->model());
+        look.index = text == combo->itemText(combo->currentIndex()) ? combo->currentIndex() : -1;
+    } else if (view != nullptr) {
+        look.items = ItemsOf(*view->model());
+        for (const QModelIndex& selected : view->selectionModel()->selectedRows()) {
+            look.index = selected.row() + FirstRow(control);
         }
-        items.push_back(platform::qt::Encode(columns.join(QLatin1Char('|'))));
+    } else if (button != nullptr || (label != nullptr && label->buddy() != nullptr)) {
+        text.replace(QLatin1String("&&"), QLatin1String("&"));  // it would mark an access key
+        look.checked = button != nullptr && button->isChecked();
     }
-    return items;
-}
-
-int ShownIndex(const toolkit::Control& control) {
-    if (const auto* combo = As<QComboBox>(control)) {
-        const int row = combo->currentIndex();
-        return combo->currentText() == combo->itemText(row) ? row : -1;
-    }
-    const auto* view = As<QAbstractItemView>(control);
-    const QModelIndexList rows = view->selectionModel()->selectedRows();
-    if (rows.isEmpty()) {
-        return -1;
-    }
-    return rows.first().row() + (control.GetKind() == toolkit::Kind::ListView ? 1 : 0);
-}
-
-bool ShownChecked(const toolkit::CheckBox& box) {
-    return As<QAbstractButton>(box)->isChecked();
-}
-
-bool ShownEnabled(const toolkit::Control& control) {
-    return WidgetOf(control).isEnabled();
-}
-
-bool ShownVisible(const toolkit::Control& control) {
-    return WidgetOf(control).isVisible();
-}
-
-bool ShownWindow(const toolkit::Window& window) {
-    return NativeOf(window).isVisible();
+    look.text = Encode(text);
+    return look;
 }
 
 std::string ShownCaption(const toolkit::Window& window) {
-    return platform::qt::Encode(NativeOf(window).windowTitle());
+    const NativeWindow& native = NativeOf(window);
+    return native.isVisible() ? Encode(native.windowTitle()) : std::string();
 }
 
 std::string Focused(const toolkit::Window& window) {
     const QWidget* focused = NativeOf(window).focusWidget();
-    return focused != nullptr ? platform::qt::Encode(focused->objectName()) : std::string();
+    return focused != nullptr ? Encode(focused->objectName()) : std::string();
 }
 
 }  // namespace driver

@@ -1,37 +1,34 @@
 #include "session.h"
 
-#include <algorithm>
+#include <ranges>
 
 #include "mainwindow/application.h"
 #include "mainwindow/main_window.h"
 #include "state/records.h"
 #include "state/startup.h"
 #include "text/ascii.h"
+#include "wad/little_endian.h"
 
 namespace {
 
-std::string Number(std::uint32_t value) {
-    std::string bytes;
-    for (int shift = 0; shift < 32; shift += 8) {
-        bytes += static_cast<char>(value >> shift & 0xff);
-    }
-    return bytes;
-}
-
 void UnloadWindows() {
-    std::for_each(TheApplication.windows.rbegin(), TheApplication.windows.rend(),
-                  [](toolkit::Window* window) { window->Unload(); });
+    for (toolkit::Window* window : TheApplication.windows | std::views::reverse) {
+        window->Unload();
+    }
 }
 
 }  // namespace
 
 std::string WadBytes(std::string_view tag, const std::vector<std::string>& lumps) {
-    constexpr std::uint32_t HeaderSize = 12;
-    std::string bytes =
-        std::string(tag) + Number(static_cast<std::uint32_t>(lumps.size())) + Number(HeaderSize);
+    constexpr std::int32_t HeaderSize = 12;
+    std::string bytes(tag);
+    AppendInt32(bytes, static_cast<std::int32_t>(lumps.size()));
+    AppendInt32(bytes, HeaderSize);
     for (std::string name : lumps) {
         name.resize(8);
-        bytes += Number(HeaderSize) + Number(0) + name;
+        AppendInt32(bytes, HeaderSize);
+        AppendInt32(bytes, 0);
+        bytes += name;
     }
     return bytes;
 }
