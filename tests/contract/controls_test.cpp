@@ -257,7 +257,7 @@ TEST_F(Controls, KeysReachTheirControls) {
         driver::PressEnter(form);
         driver::PressEscape(form);
         EXPECT_EQ(std::exchange(pressed, ""), "yes no ") << name;
-        driver::PressTab(form);
+        driver::Press(form, driver::Key::Tab);
     }
     driver::PressEnter(form);
     EXPECT_EQ(pressed, "no ") << "Enter presses the button that has the focus";

@@ -70,10 +70,7 @@ TEST(Files, AreListedByPatternInNameOrder) {
         folder.Write(name, "");
     }
     folder.Write("dir.cfg/inside.cfg", "");
-    const struct {
-        const char* pattern;
-        std::vector<std::string> names;
-    } rows[] = {
+    const std::pair<const char*, std::vector<std::string>> rows[] = {
         {"*.cfg", {"a.b.cfg", "A.CFG", "b.cfg", "_.cfg"}},
         {"?.cfg", {"A.CFG", "b.cfg", "_.cfg"}},
         {"*.*.cfg", {"a.b.cfg"}},
@@ -81,8 +78,8 @@ TEST(Files, AreListedByPatternInNameOrder) {
         {"*.lmp", {foreign}},
         {"*.wad", {}},
     };
-    for (const auto& row : rows) {
-        EXPECT_EQ(platform::ListFiles(folder.Path(), row.pattern), row.names) << row.pattern;
+    for (const auto& [pattern, names] : rows) {
+        EXPECT_EQ(platform::ListFiles(folder.Path(), pattern), names) << pattern;
     }
     EXPECT_TRUE(platform::ListFiles(folder.Path("none"), "*").empty());
 }

@@ -52,21 +52,23 @@ TEST(Dialogs, FillTheRecordWithTheFilesPicked) {
     for (const char* name : {"a.wad", "B.WAD", "notes.txt", "sub/c.wad"}) {
         folder.Write(name, "");
     }
-    constexpr std::uint32_t Several = platform::OfnFileMustExist | platform::OfnAllowMultiSelect;
+    constexpr std::uint32_t One = platform::OfnFileMustExist;
+    constexpr std::uint32_t Several = One | platform::OfnAllowMultiSelect;
+    constexpr std::uint32_t Prompt = platform::OfnOverwritePrompt;
     const struct {
         bool (*show)(platform::OpenFileName&);
         std::uint32_t flags;
         std::string typed;
         std::string picked;
     } rows[] = {
-        {platform::GetOpenFileNameA, platform::OfnFileMustExist, "a.wad", folder.Path("a.wad")},
-        {platform::GetOpenFileNameA, platform::OfnFileMustExist, "", ""},
+        {platform::GetOpenFileNameA, One, "a.wad", folder.Path("a.wad")},
+        {platform::GetOpenFileNameA, One, "", ""},
         {platform::GetOpenFileNameA, Several, R"("a.wad" "B.WAD")",
          folder.Path() + "\0a.wad\0B.WAD"s},
         {platform::GetOpenFileNameA, Several, "sub/c.wad", folder.Path("sub\\c.wad")},
         {platform::GetOpenFileNameA, 0, "new.wad", folder.Path("new.wad")},
         {platform::GetSaveFileNameA, 0, "a.wad", folder.Path("a.wad")},
-        {platform::GetSaveFileNameA, platform::OfnOverwritePrompt, "a.wad", folder.Path("a.wad")},
+        {platform::GetSaveFileNameA, Prompt, "a.wad", folder.Path("a.wad")},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.typed);
@@ -85,7 +87,7 @@ TEST(Dialogs, FillTheRecordWithTheFilesPicked) {
             Answer(row.typed);
         });
         bool wasAsked = false;
-        if (row.flags == platform::OfnOverwritePrompt) {
+        if (row.flags == Prompt) {
             driver::InNextModal([&] {
                 wasAsked = true;
                 qobject_cast<QMessageBox*>(Dialog())->button(QMessageBox::Yes)->click();
@@ -93,7 +95,7 @@ TEST(Dialogs, FillTheRecordWithTheFilesPicked) {
         }
         EXPECT_EQ(row.show(record), !row.picked.empty());
         EXPECT_EQ(record.lpstrFile, Buffer(row.picked));
-        EXPECT_EQ(wasAsked, row.flags == platform::OfnOverwritePrompt);
+        EXPECT_EQ(wasAsked, row.flags == Prompt);
     }
 }
 
@@ -138,10 +140,7 @@ TEST(Messages, AskForALine) {
 
 TEST(PickedFiles, FillTheBufferOfTheRecord) {
     const std::string longName = "Z:\\" + std::string(platform::FileBufferSize - 5, 'x');
-    const struct {
-        std::vector<std::string> paths;
-        std::string text;  // empty: counts as Cancel
-    } cases[] = {
+    const std::pair<std::vector<std::string>, std::string> cases[] = {
         {{"Z:\\a.wad", "Z:\\b.wad"}, "Z:\\\0a.wad\0b.wad"s},
         {{"Z:\\v\\a.wad", "Z:\\w\\b.wad"}, ""},
         {{longName}, longName},

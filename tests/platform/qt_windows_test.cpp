@@ -11,10 +11,7 @@
 namespace {
 
 TEST(QtText, IsUtf8OrElseWindows1252) {
-    const struct {
-        const char* bytes;
-        const char16_t* shown;
-    } cases[] = {
+    const std::pair<const char*, const char16_t*> cases[] = {
         {"plain", u"plain"},
         {"d\xC3\xB6\xC3\xB6m", u"d\u00F6\u00F6m"},
         {"caf\xE9 \x80 \x93x\x94", u"caf\u00E9 \u20AC \u201Cx\u201D"},

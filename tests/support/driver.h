@@ -68,9 +68,6 @@ inline void PressEnter(toolkit::Window& window) {
 inline void PressEscape(toolkit::Window& window) {
     Press(window, Key::Escape);
 }
-inline void PressTab(toolkit::Window& window) {
-    Press(window, Key::Tab);
-}
 inline std::string ShownText(const toolkit::Control& control) {
     return LookAt(control).text;
 }

@@ -13,11 +13,6 @@
 
 namespace memory {
 
-struct Message {
-    std::string text;
-    platform::MessageIcon icon;
-};
-
 struct TextQuestion {
     std::string prompt;
     std::string title;
@@ -36,9 +31,7 @@ struct StartedProgram {
 struct Machine {
     std::string programDirectory;
     std::string commandLine;
-    platform::VersionNumbers version{1, 0, 61};
-
-    std::deque<Message> messages;
+    std::deque<std::string> messages;  // that were shown
 
     std::deque<std::string> files;    // chosen in file dialogs, empty for Cancel
     std::deque<std::string> folders;  // chosen in folder dialogs

@@ -11,18 +11,11 @@ std::deque<std::function<void()>> modalSteps;
 std::deque<int> menuChoices;
 toolkit::Control* focused = nullptr;
 
-/// Rows of a list box are this high, for the hit test.
 constexpr int RowHeight = 16;
-constexpr int ListWidth = 200;
-constexpr int ListHeight = 160;
 
 template <class Kind>
-Kind* As(toolkit::Control& control) {
-    return dynamic_cast<Kind*>(&control);
-}
-template <class Kind>
-const Kind* As(const toolkit::Control& control) {
-    return dynamic_cast<const Kind*>(&control);
+Kind* As(const toolkit::Control& control) {
+    return dynamic_cast<Kind*>(const_cast<toolkit::Control*>(&control));
 }
 
 toolkit::Button* ButtonWith(const toolkit::Window& window, toolkit::Flag flag) {
@@ -92,8 +85,7 @@ void Draw(toolkit::Control& control, Aspect aspect, int) {
 
 std::uint32_t ItemFromPoint(const toolkit::ListBox&, int x, int y) {
     constexpr std::uint32_t Outside = 0x10000;
-    const bool isInside = x >= 0 && y >= 0 && x < ListWidth && y < ListHeight;
-    return isInside ? static_cast<std::uint32_t>(y / RowHeight) : Outside;
+    return x < 0 || y < 0 ? Outside : static_cast<std::uint32_t>(y / RowHeight);
 }
 
 void ShowPopupMenu(toolkit::Window&, toolkit::PopupMenu& menu) {
