@@ -54,12 +54,11 @@ TEST_F(WadWriting, RefusalsChangeNothing) {
 }
 
 TEST_F(WadWriting, AddsToAnOpenedFileOverItsDirectory) {
-    struct Row {
+    const struct {
         const char* name;
         std::string before;
         std::string after;
-    };
-    const Row rows[] = {
+    } rows[] = {
         {"one lump", Header("PWAD", 1, 14) + "xy" + Entry(12, 2, "OLD") + "tail",
          Header("PWAD", 2, 16) + "xyzz" + Entry(12, 2, "OLD") + Entry(14, 2, "NEW")},
         {"unfinished", Header("PWAD", -1, 12) + "rest",
@@ -68,7 +67,7 @@ TEST_F(WadWriting, AddsToAnOpenedFileOverItsDirectory) {
          Header("PWAD", 4, 14) + "zz" + Entry(12, 0, "OLD") + Entry(0, 0, "") + Entry(0, 0, "") +
              Entry(12, 2, "NEW")},
     };
-    for (const Row& row : rows) {
+    for (const auto& row : rows) {
         SCOPED_TRACE(row.name);
         wad.OpenWad(folder.Write("new.wad", row.before));
         ASSERT_TRUE(wad.AddLump("new", "zz"));
