@@ -92,7 +92,7 @@ class Controls : public testing::Test {
         form.cmdYes.OnClick = [this] { pressed += "yes "; };
         form.cmdNo.OnClick = [this] { pressed += "no "; };
     }
-    ~Controls() override {
+    void TearDown() override {
         dialog.Unload();
         form.Unload();
         platform::DoEvents();

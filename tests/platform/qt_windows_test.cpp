@@ -52,7 +52,7 @@ class QtWindow : public testing::Test {
         wasMadeEarly = platform::qt::NativeOf(&form) != nullptr;
         form.Show();
     }
-    ~QtWindow() override { form.Unload(); }
+    void TearDown() override { form.Unload(); }
 
     QWidget& WidgetOf(const toolkit::Control& control) {
         return platform::qt::NativeOf(&form)->Find(control).Widget();
