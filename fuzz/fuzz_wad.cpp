@@ -12,10 +12,8 @@ namespace {
 constexpr std::int32_t mostBytes = 1 << 20;
 
 std::vector<std::string> LumpNames(const clsWad& wad) {
-    std::vector<std::string> names;
-    for (std::int32_t lump = 0; lump < wad.Directory().Count(); ++lump) {
-        names.push_back(wad.LumpName(lump));
-    }
+    std::vector<std::string> names(static_cast<std::size_t>(wad.Directory().Count()));
+    std::ranges::generate(names, [&, lump = 0]() mutable { return wad.LumpName(lump++); });
     return names;
 }
 

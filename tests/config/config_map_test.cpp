@@ -25,6 +25,7 @@ TEST(ConfigMap, KeepsItsOrderThroughEveryChange) {
 TEST(ConfigMap, TakesEntriesWithRepeatedKeys) {
     for (const int count : {4, 200}) {
         std::vector<ConfigEntry> entries;
+        entries.reserve(200);
         for (int place = 0; place < count; ++place) {
             entries.push_back({place % 2 == 0 ? "even" : std::to_string(place), place});
         }

@@ -4,6 +4,8 @@
 #include "state/records.h"
 #include "text/ascii.h"
 
+using namespace std::string_literals;
+
 namespace {
 
 class SettingsCase : public Session {
@@ -64,8 +66,7 @@ TEST_F(SettingsCase, TakesTheListsFromTheFileAndWritesThemFresh) {
 TEST_F(SettingsCase, AFileOfAnotherKindStopsTheProgramAndStays) {
     const std::string whole = Defaults(folder.Path());
     const std::string bad[] = {"", "type = \"zorvane configuration file\";", whole.substr(30),
-                               "\xff\xfe\x00{{{{{{{{",
-                               "type { a = \"Zorvane Configuration file\"; }"};
+                               "\xff\xfe\0{{{{"s, "type { a = \"Zorvane Configuration file\"; }"};
     for (const std::string& bytes : bad) {
         folder.Write("zorvane.cfg", bytes);
         EXPECT_FALSE(Start());
