@@ -1,42 +1,223 @@
 // zorvane_tour PART FOLDER PICTURES: the program itself, which plays a part by its own widgets:
 // `journey` from nothing to a recorded game, `return` on the day after, or the name of a look. It
 // ends by its own Exit button, so an end without error means that every step was as it should be.
-#include <QTimer>
-#include <iostream>
-
-#include "mainwindow/application.h"
-#include "platform/desktop.h"
-#include "platform/facts.h"
-#include "state/startup.h"
 #include "tour.h"
+
+#include <QComboBox>
+#include <QCursor>
+#include <QTimer>
+#include <QToolTip>
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+
+#include "driver.h"
+#include "launch/demo_save.h"
+#include "mainwindow/application.h"
+#include "mainwindow/main_window.h"
+#include "platform/facts.h"
+#include "setup/credits.h"
+#include "setup/engine_settings.h"
+#include "setup/setup.h"
+#include "state/startup.h"
+#include "wad/wad.h"
 
 namespace {
 
-void Play(const std::string& part, const std::string& folder) {
-    if (part == "journey") {
-        tour::Journey(folder);
-    } else if (part == "return") {
-        tour::Return(folder);
-    } else {
-        tour::Looks(part);
+using namespace tour;
+
+const std::string phase1 = "/usr/share/games/doom/freedoom1.wad";
+const std::string phase2 = "/usr/share/games/doom/freedoom2.wad";
+
+std::string Wads(const std::string& name) {
+    return folder + "/wads/" + name;
+}
+
+/// A player's own WAD with a map of the game, a text beside it, and a patch; and an engine that
+/// starts, plays nothing and leaves no demo.
+void MakePlayersFiles() {
+    constexpr int lumpsOfMap = 11;
+    std::string kind = "PWAD";
+    clsWad game;
+    clsWad own;
+    std::filesystem::create_directory(Wads(""));
+    game.OpenWad("Z:" + phase1);
+    own.CreateWad(Wads("castle.wad"), kind);
+    for (int lump = game.NumForName("E1M3"), i = 0; i < lumpsOfMap; ++i, ++lump) {
+        own.AddLump(game.LumpName(lump), game.ReadLumpString(lump));
     }
+    Check(!!own.WriteDirectory(), "a WAD of the player's own");
+    std::ofstream(Wads("castle.txt")) << "A castle.\n";
+    std::ofstream(Wads("patch.deh")) << "Patch File for DeHackEd v3.0\n";
+    std::filesystem::create_directory(folder + "/ports/doomretro");
+    std::filesystem::create_symlink("/bin/true", folder + "/ports/doomretro/doomretro");
+}
+
+int RowOf(const toolkit::Control& list, const std::string& start) {
+    const auto rows = driver::ShownItems(list);
+    const auto found =
+        std::ranges::find_if(rows, [&](auto& row) { return row.starts_with(start); });
+    return static_cast<int>(found - rows.begin());
+}
+
+void Choose(toolkit::ItemControl& list, const std::string& name) {
+    driver::Choose(list, RowOf(list, name));
+}
+
+/// Turns two switches on in the next dialog of options.
+void SetOptionsNext(const std::string& picture) {
+    driver::InNextModal([picture] {
+        for (const auto& box : frmEngineSettings.chkOptions) {
+            const std::string caption = driver::ShownText(*box);
+            if (caption == "Run in a window" || caption == "No error message windows") {
+                driver::Click(*box);
+            }
+        }
+        Picture(picture);
+        driver::PressEnter(frmEngineSettings);
+    });
+}
+
+void SetUp() {
+    Press(frmSetup.cmdAdd, {{.typed = phase1, .picture = "add-game"},
+                            {.shown = "Freedoom: Phase 1", .picture = "name-of-the-game"}});
+    Press(frmSetup.cmdAdd, {{.typed = phase2}, {.shown = "Freedoom: Phase 2"}});
+    Press(frmSetup.cmdAdd, {{.typed = Wads("castle.wad")},
+                            {.shown = "Please select a game", .picture = "patch-is-no-game"}});
+    const std::tuple<std::string, std::string, std::string> engines[] = {
+        {"Chocolate Doom", "chocolate-doom", ""},
+        {"DSDA-Doom", "dsda-doom", ""},
+        {"Doom Retro", "doomretro", "engine-folder"}};
+    for (const auto& [name, program, picture] : engines) {
+        driver::Choose(frmSetup.lvwEngines, RowOf(frmSetup.lvwEngines, name) + 1);
+        Press(frmSetup.cmdPath, {{.typed = folder + "/ports/" + program, .picture = picture}});
+    }
+    SetOptionsNext("options-from-setup");
+    driver::DoubleClick(frmSetup.lvwEngines, RowOf(frmSetup.lvwEngines, "Chocolate Doom") + 1);
+    Picture("setup");
+    driver::Click(frmSetup.cmdOK);
+}
+
+void ChooseFilesAndMap() {
+    Press(frmMain.cmdAdd, {{.typed = "\"castle.wad\" \"patch.deh\"", .picture = "add-files"}});
+    driver::Choose(frmMain.lstFiles, 0);
+    driver::PointAt(frmMain.lstFiles, 0);
+    Until([] { return QToolTip::text().toStdString() == Wads("castle.wad"); }, "a tooltip");
+    Picture("tooltip-and-tip");
+
+    QTimer::singleShot(std::chrono::milliseconds(300), [] {
+        Picture("menu");
+        driver::AtNextMenu(0);
+    });
+    QCursor::setPos(Front().mapToGlobal(QPoint(200, 250)));
+    driver::RightClick(frmMain.lstFiles, 0);
+    QCursor::setPos(0, 0);
+    CheckEqual(driver::ShownText(frmMain.cmbMaps), "E1M3");
+    Choose(frmMain.cmbIWADs, "Freedoom: Phase 2");
+    Press(frmMain.cmdGetMapLump, {{.shown = "Warning: The map E1M3", .picture = "map-warning"}});
+    Choose(frmMain.cmbIWADs, "Freedoom: Phase 1");
+    auto& maps = *Front().findChild<QComboBox*>("cmbMaps");
+    maps.showPopup();
+    Picture("maps");
+    maps.hidePopup();
+    driver::DoubleClick(frmMain.lstFiles, 0);
+}
+
+std::string QuickStartLine(const std::string& demo = "",
+                           const std::string& switches = "-window -nogui") {
+    return switches + " -file " + Wads("castle.wad") + " " + Wads("patch.deh") + " -iwad " +
+           phase1 + " -skill 3 -fast -warp 1 3 " + demo + "-geometry 640x480";
+}
+
+void Run() {
+    Front().move(40, 140);
+    driver::Click(frmMain.chkFastMonsters);
+    driver::Type(frmMain.txtParameters, "-geometry 640x480");
+    driver::Click(frmMain.cmdRun);
+    WatchGame("dsda-doom", QuickStartLine("", "-window -no_message_box"), "run-dsda-doom");
+    Choose(frmMain.cmbEngines, "Chocolate Doom");
+    driver::Click(frmMain.cmdRun);
+    WatchGame("chocolate-doom", QuickStartLine(), "run-chocolate-doom");
+    driver::Click(frmMain.cmdLaunch);
+    WatchGame("chocolate-doom", "-window -nogui -iwad " + phase1, "launch");
+}
+
+void RecordAndPlayBack() {
+    const std::string demo = Wads("first run");
+    driver::Type(frmMain.txtParameters, "-geometry 640x480 -maxdemo 1");
+    QTimer::singleShot(0, [] {
+        driver::PointAt(frmMain.cmdExit);
+        CheckEqual(driver::ShownText(frmMain.lblTip), "Exit Zorvane.");
+        const std::string to = "-record " + folder + "/ports/chocolate-doom/temp ";
+        WatchGame("chocolate-doom", QuickStartLine(to) + " -maxdemo 1", "recording", true);
+    });
+    driver::InNextModal([&] {
+        Picture("save-demo");
+        Press(frmDemoSave.cmdBrowse, {{.typed = demo, .picture = "name-of-the-demo"}});
+        driver::Click(frmDemoSave.cmdSave);
+    });
+    driver::Click(frmMain.cmdDemo);
+    driver::Type(frmMain.txtParameters, "-geometry 640x480");
+    Press(frmMain.cmdPlayBack, {{.typed = demo + ".lmp", .picture = "choose-demo"}});
+    WatchGame("chocolate-doom", QuickStartLine("-playdemo " + demo + ".lmp "), "playback");
+    Choose(frmMain.cmbEngines, "Doom Retro");
+    Press(frmMain.cmdDemo, {{.shown = "Could not find the temporary", .picture = "no-demo"}});
+    Choose(frmMain.cmbEngines, "Chocolate Doom");
+}
+
+/// Opens a dialog, takes its picture and closes it.
+void Visit(toolkit::Button& opener, toolkit::Button& closer, const std::string& name,
+           void (*takePicture)(const std::string&)) {
+    driver::InNextModal([&, name] {
+        takePicture(name);
+        driver::Click(closer);
+    });
+    driver::Click(opener);
+}
+
+void Journey() {
+    Picture("first-run");
+    MakePlayersFiles();
+    Press(frmMain.cmdLaunch, {{.shown = "Please select an engine", .picture = "no-engine-chosen"}});
+    driver::InNextModal(SetUp);
+    driver::Click(frmMain.cmdSetup);
+    Choose(frmMain.cmbEngines, "DSDA-Doom");
+    SetOptionsNext("options");
+    driver::Click(frmMain.cmdSettings);
+    Choose(frmMain.cmbIWADs, "Freedoom: Phase 1");
+    ChooseFilesAndMap();
+    Run();
+    RecordAndPlayBack();
+    Visit(frmMain.cmdAbout, frmCredits.cmdOK, "about", Picture);
+    Picture("before-exit");
+}
+
+void Play(const std::string& part) {
+    if (part == "journey") {
+        Journey();
+    } else if (part == "return") {
+        Picture("the-day-after");
+        CheckEqual(driver::ShownText(frmMain.cmbMaps), "E1M3");
+        CheckEqual(driver::ShownItems(frmMain.lstFiles)[0], Wads("castle.wad"));
+    } else {
+        Portrait(part + "-main");
+        Visit(frmMain.cmdSettings, frmEngineSettings.cmdAccept, part + "-options", Portrait);
+        Visit(frmMain.cmdSetup, frmSetup.cmdOK, part + "-setup", Portrait);
+        Visit(frmMain.cmdAbout, frmCredits.cmdOK, part + "-about", Portrait);
+    }
+    driver::Click(frmMain.cmdExit);
 }
 
 }  // namespace
 
 int main(int argumentCount, char** arguments) {
     platform::StartDesktop(argumentCount, arguments);
-    constexpr int partFolderPictures = 4;
-    if (argumentCount != partFolderPictures) {
-        std::cerr << "zorvane_tour PART FOLDER PICTURES\n";
-        return 1;
-    }
     platform::RememberArguments(1, arguments);
-    tour::SetPictureFolder(arguments[3]);
+    folder = arguments[2];
+    pictureFolder = arguments[3];
     TieApplication();
     Main();
-    constexpr int longest = 80000;
-    QTimer::singleShot(longest, [] { tour::Check(false, "the tour comes to its end"); });
-    QTimer::singleShot(0, [=] { Play(arguments[1], arguments[2]); });
+    QTimer::singleShot(std::chrono::seconds(80), [] { Check(false, "the tour comes to its end"); });
+    QTimer::singleShot(0, [=] { Play(arguments[1]); });
     return platform::RunEventLoop() + 1;
 }

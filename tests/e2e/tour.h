@@ -1,5 +1,5 @@
-// The tour's tools: what drives the dialogs of the windowing system and what proves a game.
-// Whatever is not as it should be ends the tour and says so.
+// The tour's tools: what works the dialogs of the windowing system and what proves a game. Whatever
+// is not as it should be ends the tour and says so.
 #pragma once
 
 #include <QWidget>
@@ -7,55 +7,36 @@
 #include <string>
 #include <vector>
 
+#include "toolkit/control.h"
+
 namespace tour {
+
+inline std::string folder;         // the program directory
+inline std::string pictureFolder;  // where the pictures go
 
 void Check(bool fine, const std::string& what);
 void CheckEqual(const std::string& actual, const std::string& expected);
 /// Lets the program run until `ready`, for half a minute at most.
 void Until(const std::function<bool()>& ready, const std::string& what);
-/// Lets the program run.
-void Pass(int milliseconds);
-
 /// The window in front.
 QWidget& Front();
-
-/// Where the pictures go.
-void SetPictureFolder(const std::string& folder);
 /// A numbered picture of the whole screen, or of one window without its frame.
 void Picture(const std::string& name);
 void Portrait(const std::string& name);
 
-/// Answers for the next dialog of each kind, which is pictured first when a name is given. A file
-/// or folder is typed. An empty text for a line of text leaves what is proposed.
-void NextFile(const std::string& typed, const std::string& picture = {});
-void NextText(const std::string& proposed, const std::string& typed,
-              const std::string& picture = {});
-void NextMessage(const std::string& start, const std::string& picture = {});
-
-/// A running engine. It ends, with all of its own, at the end of its time.
-class Game {
-  public:
-    /// Waits until a program of that path runs.
-    explicit Game(const std::string& program);
-    Game(const Game&) = delete;
-    Game& operator=(const Game&) = delete;
-    ~Game();
-
-    /// Its arguments, one blank between two, and its working directory.
-    std::string Arguments() const;
-    std::string Folder() const;
-    /// Waits until its window shows something and moves that window to a place on the screen.
-    void ShowAt(int x, int y) const;
-    /// Leaves it running for as long as it likes.
-    void Leave() { pid_ = 0; }
-
-  private:
-    int pid_ = 0;
+/// What becomes of a dialog: its message, or what its field proposes, begins with `shown`; `typed`
+/// replaces what is proposed; it is pictured when there is a name; Enter closes it.
+struct Answer {
+    std::string shown = {};
+    std::string typed = {};
+    std::string picture = {};
 };
+/// Presses a button and answers what comes up, one dialog after the other.
+void Press(toolkit::Button& button, const std::vector<Answer>& answers = {});
 
-/// The steps of each part of the tour; the program is on the screen when they begin.
-void Journey(const std::string& folder);
-void Return(const std::string& folder);
-void Looks(const std::string& look);
+/// Waits until that engine plays, with these arguments and one blank between two; moves its window
+/// beside ours, takes the picture, and ends it with all of its own, if it does not go on.
+void WatchGame(const std::string& engine, const std::string& arguments, const std::string& picture,
+               bool goesOn = false);
 
 }  // namespace tour
