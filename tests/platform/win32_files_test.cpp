@@ -1,4 +1,4 @@
-// What files and texts are on Windows alone: attributes, and names that are not ASCII.
+// What files and texts are on Windows alone: attributes, and wide characters.
 #include <gtest/gtest.h>
 
 #include "platform/files.h"

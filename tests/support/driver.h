@@ -32,7 +32,7 @@ void Close(toolkit::Window& window);
 
 /// Runs `steps` inside the next modal window, once it is shown. Queued calls go to one window each.
 void InNextModal(std::function<void()> steps);
-/// Runs `steps` while the next pop-up menu is shown; `row` of its items is chosen, -1 leaves it.
+/// Chooses a row of the next pop-up menu; -1 leaves the menu.
 void AtNextMenu(int row);
 
 /// What the screen shows of a control. Paths are native, as they are drawn.

@@ -128,8 +128,13 @@ void Choose(toolkit::Control& list, int row) {
     QTest::keyClick(combo->view(), Qt::Key_Return);
 }
 
+/// In the active window, as only there a field acts on the focus that it loses later.
 void Type(toolkit::Control& control, const std::string& text) {
     QWidget* field = As(control);
+    field->activateWindow();
+    if (!QTest::qWaitForWindowActive(field->window())) {
+        return;
+    }
     field->setFocus();
     QTest::keyClick(field, Qt::Key_A, Qt::ControlModifier);
     QTest::keyClick(field, Qt::Key_Delete);
