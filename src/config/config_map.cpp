@@ -9,6 +9,12 @@ namespace {
 /// Above this number of keys a hash is quicker than a walk.
 constexpr std::size_t walkedKeys = 12;
 
+/// Keys of equal length differ most often at their ends.
+bool AreSame(std::string_view key, std::string_view other) {
+    return key.size() == other.size() &&
+           (key.empty() || (key.back() == other.back() && key == other));
+}
+
 /// Moves the maps that the entries hold into `maps`.
 void TakeMaps(std::vector<ConfigEntry>& entries, std::vector<ConfigMapRef>& maps) {
     for (ConfigEntry& entry : entries) {
@@ -26,7 +32,7 @@ ConfigMap::ConfigMap(std::vector<ConfigEntry> entries) : entries_(std::move(entr
         large_ = std::make_unique<Large>(Large{KeyIndex(entries_.size()), {}});
     }
     // The hashes come first, a batch at a time, so that the slots are on their way from memory.
-    std::array<std::uint32_t, 16> hashes{};
+    std::array<std::uint32_t, 64> hashes{};
     std::uint32_t kept = 0;
     for (std::size_t at = 0; at < entries_.size(); ++at) {
         if (large_ && at % hashes.size() == 0) {
@@ -128,7 +134,7 @@ std::uint32_t ConfigMap::Hash(std::string_view key) const {
 
 /// The place of the key among the first `count` ones.
 std::uint32_t ConfigMap::Place(std::string_view key, std::uint32_t hash, std::size_t count) const {
-    const auto isWanted = [&](std::uint32_t place) { return entries_[place].key == key; };
+    const auto isWanted = [&](std::uint32_t place) { return AreSame(entries_[place].key, key); };
     if (large_) {
         return large_->index.Find(hash, isWanted);
     }

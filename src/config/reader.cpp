@@ -11,26 +11,28 @@
 
 namespace {
 
-enum Stop : unsigned char { StopsKey = 1, StopsString = 2 };
+enum Class : unsigned char { Blank = 1, StopsKey = 2, StopsString = 4, BeginsValue = 8 };
 
-constexpr auto stops = [] {
+constexpr auto classes = [] {
     std::array<unsigned char, 256> table{};
-    for (const char character : std::string_view(" \n\r\t{}=;/")) {
-        table[static_cast<unsigned char>(character)] |= StopsKey;
-    }
-    for (const char character : std::string_view("\r\t\"\\;")) {
-        table[static_cast<unsigned char>(character)] |= StopsString;
-    }
+    const auto enter = [&](std::string_view characters, Class in) {
+        for (const char character : characters) {
+            table[static_cast<unsigned char>(character)] |= in;
+        }
+    };
+    enter(" \n\r\t", Blank);
+    enter(" \n\r\t{}=;/", StopsKey);
+    enter("\r\t\"\\;", StopsString);
+    enter("\"0123456789&-.eE", BeginsValue);
     return table;
 }();
 
-bool IsDigit(char character) {
-    return character >= '0' && character <= '9';
+bool Is(char character, Class in) {
+    return (classes[static_cast<unsigned char>(character)] & in) != 0;
 }
 
-bool BeginsNumber(char character) {
-    constexpr std::string_view others = "&-.eE";
-    return IsDigit(character) || others.find(character) != std::string_view::npos;
+bool IsDigit(char character) {
+    return character >= '0' && character <= '9';
 }
 
 bool CountsAsAbsent(char character) {
@@ -61,6 +63,7 @@ class Reader {
     };
 
     void ReserveEntries();
+    bool PassBlanks();
     void ReadEntries();
     void ReadValue();
     void ReadNumber();
@@ -72,7 +75,7 @@ class Reader {
     void Close();
 
     std::vector<ConfigEntry> TakeEntries(std::size_t place);
-    void TakeRun(Stop stop, std::string& target);
+    void TakeRun(Class stop, std::string& target);
     const char* NextPresent(const char* from) const;
     void Store(ConfigValue value);
 
@@ -84,14 +87,15 @@ class Reader {
     std::vector<ConfigEntry> entries_;
 };
 
-/// So that the entries of a large text need not move as they become more.
+/// So that the entries of a large text need not move as they become more. How many there will be
+/// shows at its beginning.
 void Reader::ReserveEntries() {
-    constexpr std::size_t largeText = 1 << 20;
+    constexpr std::size_t sample = 1 << 16;
     constexpr std::size_t usualEntry = 16;  // characters; strings may hold many a ";"
     const auto size = static_cast<std::size_t>(end_ - at_);
-    if (size > largeText) {
-        const auto ends = static_cast<std::size_t>(std::count(at_, end_, ';'));
-        entries_.reserve(std::min(ends, size / usualEntry));
+    if (size > sample) {
+        const auto ends = static_cast<std::size_t>(std::count(at_, at_ + sample, ';'));
+        entries_.reserve((size / sample + 1) * std::min(ends, sample / usualEntry));
     }
 }
 
@@ -104,11 +108,19 @@ ConfigMapRef Reader::Read() {
     return std::make_shared<ConfigMap>(fits ? std::move(entries_) : TakeEntries(0));
 }
 
+/// Blanks and line ends may stand anywhere, inside a key too. Gives whether text is left.
+bool Reader::PassBlanks() {
+    while (at_ != end_ && Is(*at_, Blank)) {
+        ++at_;
+    }
+    return at_ != end_;
+}
+
 void Reader::ReadEntries() {
-    while (at_ != end_) {
-        TakeRun(StopsKey, key_);
-        if (at_ == end_) {
-            return;
+    while (PassBlanks()) {
+        if (!Is(*at_, StopsKey)) {
+            TakeRun(StopsKey, key_);
+            continue;
         }
         switch (*at_++) {
             case '=':
@@ -129,7 +141,7 @@ void Reader::ReadEntries() {
             case '/':
                 PassComment();
                 break;
-            default:  // a blank or a line's end, which may stand anywhere
+            default:
                 break;
         }
     }
@@ -137,17 +149,15 @@ void Reader::ReadEntries() {
 
 /// Behind a key's "=", everything up to the beginning of a string or a number is passed over.
 void Reader::ReadValue() {
-    while (at_ != end_) {
-        if (*at_ == '"') {
-            ++at_;
-            ReadString();
-            return;
-        }
-        if (BeginsNumber(*at_)) {
-            ReadNumber();
-            return;
-        }
+    at_ = std::find_if(at_, end_, [](char character) { return Is(character, BeginsValue); });
+    if (at_ == end_) {
+        return;
+    }
+    if (*at_ == '"') {
         ++at_;
+        ReadString();
+    } else {
+        ReadNumber();
     }
 }
 
@@ -162,12 +172,14 @@ void Reader::ReadNumber() {
     if (at_ == end_) {
         return;
     }
-    value_.assign(start, at_++);
+    std::string_view digits(start, at_++);
+    std::string present;
     if (hasReturns) {
-        std::erase(value_, '\r');
+        present = digits;
+        std::erase(present, '\r');
+        digits = present;
     }
-    const double number = NumberValue(value_);
-    value_.clear();
+    const double number = NumberValue(digits);
     Store(single ? ConfigValue(SingleNumber(number)) : ConfigValue(number));
 }
 
@@ -269,9 +281,9 @@ std::vector<ConfigEntry> Reader::TakeEntries(std::size_t place) {
 }
 
 /// Appends the plain characters from here up to the next one that means something.
-void Reader::TakeRun(Stop stop, std::string& target) {
+void Reader::TakeRun(Class stop, std::string& target) {
     const char* at = at_;
-    while (at != end_ && !(stops[static_cast<unsigned char>(*at)] & stop)) {
+    while (at != end_ && !Is(*at, stop)) {
         ++at;
     }
     target.append(at_, static_cast<std::size_t>(at - at_));
@@ -283,8 +295,9 @@ const char* Reader::NextPresent(const char* from) const {
 }
 
 void Reader::Store(ConfigValue value) {
-    entries_.push_back({std::move(key_), std::move(value)});
-    key_.clear();
+    ConfigEntry& entry = entries_.emplace_back();
+    entry.key.swap(key_);
+    entry.value = std::move(value);
 }
 
 }  // namespace
