@@ -13,29 +13,19 @@ bool IsPadding(char character) {
     return character == '\0' || character == ' ';
 }
 
-/// Whether the cleaned name of a field of eight characters is `name`.
-bool IsNamed(const char* field, std::string_view name) {
-    const char* const end = field + lumpNameLength;
-    field = std::find_if_not(field, end, IsPadding);
-    if (name.size() > static_cast<std::size_t>(end - field)) {
-        return false;
+std::string_view TrimPadding(const char* field) {
+    const char* end = field + lumpNameLength;
+    while (end != field && IsPadding(end[-1])) {
+        --end;
     }
-    const auto isSame = [](char wanted, char character) {
-        return wanted == (character == '\0' ? ' ' : character);
-    };
-    return std::equal(name.begin(), name.end(), field, isSame) &&
-           std::all_of(field + name.size(), end, IsPadding);
+    return {std::find_if_not(field, end, IsPadding), end};
 }
 
 /// The first of `count` entries from `start` on that has this name, or `count`.
 std::int32_t FindNamed(const char* entries, std::int32_t start, std::int32_t count,
-                       std::string_view name) {
-    // A field that begins with another letter, as most do, needs no closer look.
-    const char first = name.empty() ? '\0' : name.front();
+                       const WantedName& name) {
     for (std::int32_t index = start; index < count; ++index) {
-        const char* const field =
-            entries + static_cast<std::size_t>(index) * WadDirectory::entryBytes + 8;
-        if ((*field == first || IsPadding(*field)) && IsNamed(field, name)) {
+        if (name.IsIn(entries + static_cast<std::size_t>(index) * WadDirectory::entryBytes + 8)) {
             return index;
         }
     }
@@ -44,19 +34,34 @@ std::int32_t FindNamed(const char* entries, std::int32_t start, std::int32_t cou
 
 }  // namespace
 
+WantedName::WantedName(std::string_view name)
+    : name_(name), first_(name.empty() ? '\0' : name.front()) {
+    name.copy(usual_.data(), usual_.size());
+}
+
+// Most fields begin with another letter, and most of the others hold just the name and NULs:
+// neither needs a closer look.
+bool WantedName::IsIn(const char* field) const {
+    if (*field != first_ && !IsPadding(*field)) {
+        return false;
+    }
+    const bool isUsual = std::memcmp(field, usual_.data(), lumpNameLength) == 0;
+    return isUsual ? name_.size() <= lumpNameLength : StripLumpName(field) == name_;
+}
+
 std::string StripLumpName(const char* field) {
-    LumpNameField name{};
-    std::replace_copy(field, field + lumpNameLength, name.begin(), '\0', ' ');
-    std::size_t end = lumpNameLength;
-    while (end > 0 && name[end - 1] == ' ') {
-        --end;
+    std::string name(TrimPadding(field));
+    std::ranges::replace(name, '\0', ' ');
+    return name;
+}
+
+// Made where it stays: moving a short text that was made just now is what takes longest here.
+void AppendLumpName(const char* field, std::vector<std::string>& names) {
+    const std::string_view name = TrimPadding(field);
+    names.emplace_back(name);
+    if (std::ranges::find(name, '\0') != name.end()) {
+        names.back() = StripLumpName(field);
     }
-    std::string text(name.data(), lumpNameLength);  // a length that is known here copies quickest
-    text.resize(end);
-    if (text.starts_with(' ')) {
-        text.erase(0, text.find_first_not_of(' '));
-    }
-    return text;
 }
 
 bool WadDirectory::Read(const platform::File& file, std::int64_t offset, std::int32_t count) {
@@ -90,14 +95,14 @@ WadLumpEntry WadDirectory::Entry(std::int32_t index) const {
     return entry;
 }
 
-std::int32_t WadDirectory::Find(std::string_view name, std::int32_t start) const {
+std::int32_t WadDirectory::Find(const WantedName& name, std::int32_t start) const {
     if (start < read_) {
         const std::int32_t found = FindNamed(readBytes_.get(), start, read_, name);
         if (found < read_) {
             return found;
         }
     }
-    if (name.empty() && start < firstAdded_ && read_ < firstAdded_) {
+    if (name.IsIn(missing.data()) && start < firstAdded_ && read_ < firstAdded_) {
         return std::max(start, read_);
     }
     const std::int32_t found =

@@ -8,6 +8,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "platform/files.h"
 
@@ -24,6 +25,22 @@ struct WadLumpEntry {
 /// The name in a field of eight characters: each NUL counts as a blank, and the blanks at both ends
 /// are no part of it.
 std::string StripLumpName(const char* field);
+/// Appends that name to the others.
+void AppendLumpName(const char* field, std::vector<std::string>& names);
+
+/// A name to be looked for in such fields. It has no blank at either end, and lasts as long as the
+/// text that it was made from.
+class WantedName {
+  public:
+    explicit WantedName(std::string_view name);
+    /// Whether the field holds the name.
+    bool IsIn(const char* field) const;
+
+  private:
+    std::string_view name_;
+    char first_;
+    LumpNameField usual_{};
+};
 
 /// Entries that a file's header promises and its end cuts off are counted but take no memory: they
 /// are nameless, empty and at position 0.
@@ -44,9 +61,8 @@ class WadDirectory {
     WadLumpEntry Entry(std::int32_t index) const;
     /// The eight characters of the entry's name.
     const char* NameField(std::int32_t index) const { return Bytes(index) + 8; }
-    /// Index of the first entry from `start` on (not negative) whose cleaned name is `name`, which
-    /// has no blank at either end, or -1.
-    std::int32_t Find(std::string_view name, std::int32_t start = 0) const;
+    /// Index of the first entry from `start` on (not negative) with that name, or -1.
+    std::int32_t Find(const WantedName& name, std::int32_t start = 0) const;
 
     /// The bytes that stand for an entry in a file: the name without blanks at both ends, filled up
     /// with NULs.

@@ -3,10 +3,11 @@
 namespace {
 
 constexpr int lumpsOfAMap = 10;
+const WantedName things("THINGS");
 
 /// Index of the map at or behind `start`, or a negative number.
 std::int32_t NextMap(const clsWad& wad, std::int32_t start) {
-    return wad.Directory().Find("THINGS", start + 1) - 1;
+    return wad.Directory().Find(things, start + 1) - 1;
 }
 
 }  // namespace
@@ -16,7 +17,7 @@ std::vector<std::string> MapNames(const clsWad& wad) {
     const auto lumps = static_cast<std::size_t>(wad.Directory().StoredCount());
     names.reserve(lumps / (lumpsOfAMap + 1) + 1);
     for (std::int32_t map = NextMap(wad, 0); map >= 0; map = NextMap(wad, map + lumpsOfAMap + 1)) {
-        names.push_back(wad.LumpName(map));
+        AppendLumpName(wad.Directory().NameField(map), names);
     }
     return names;
 }

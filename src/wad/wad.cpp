@@ -42,14 +42,15 @@ void clsWad::ResetWad() {
 
 void clsWad::OpenWad(std::string fileName) {
     using Access = platform::File::Access;
-    if (!platform::IsOrdinaryFile(fileName)) {
+    platform::File file = platform::File::Open(fileName, Access::ReadWrite);
+    if (!file.IsOpen()) {
+        file = platform::File::Open(fileName, Access::Read);
+    }
+    if (!file.IsOpen() && !platform::IsOrdinaryFile(fileName)) {
         return;
     }
     ResetWad();
-    file_ = platform::File::Open(fileName, Access::ReadWrite);
-    if (!file_.IsOpen()) {
-        file_ = platform::File::Open(fileName, Access::Read);
-    }
+    file_ = std::move(file);
     if (!file_.IsOpen() || !ReadHeaderAndDirectory()) {
         ResetWad();
         return;
@@ -96,7 +97,8 @@ std::int32_t clsWad::WadSize() const {
 }
 
 std::int32_t clsWad::NumForName(std::string_view lumpName) const {
-    return directory_.Find(UpperCase(TrimBlanks(lumpName)));
+    const std::string name = UpperCase(TrimBlanks(lumpName));
+    return directory_.Find(WantedName(name));
 }
 
 std::int32_t clsWad::WastedSpace() const {

@@ -54,8 +54,8 @@ TEST_F(WadReading, NamesAreCleaned) {
     for (const std::string name :
          {"MAP01", "EIGHTCHR", "", "AB CD", "LEFT", "A B", "\t\xFFx\t", "", "map02"}) {
         EXPECT_EQ(wad.LumpName(lump), name);
-        EXPECT_EQ(wad.Directory().Find(name, lump), lump) << name;
-        EXPECT_EQ(wad.Directory().Find(name + "x", lump), -1) << name;
+        EXPECT_EQ(wad.Directory().Find(WantedName(name), lump), lump) << name;
+        EXPECT_EQ(wad.Directory().Find(WantedName(name + "x"), lump), -1) << name;
         ++lump;
     }
     EXPECT_EQ(wad.NumForName(" ab cd "), 3);
