@@ -54,6 +54,7 @@ sanitize:
 
 bench:
 	@$(INSTALL) build desktop bench display
+	@scripts/get-libucl build/bench/libucl
 	cmake --preset bench
 	cmake --build build/bench
 	@scripts/run-bench build/bench

@@ -25,7 +25,7 @@ void AddLibconfig(Comparison& table, const std::string& name, const ConfigMap& m
 }
 
 void AddLibucl(Comparison& table, const std::string& name, const ConfigMap& map) {
-    if constexpr (ZORVANE_HAS_LIBUCL) {
+    if (HasLibucl()) {
         const std::string text = TextOf(map, Dialect::Libucl);
         const std::size_t entries = EntriesOf(map);
         table.Add("read " + name, "libucl", entries, [text] { LibuclRead(text); });

@@ -88,8 +88,8 @@ void LibconfigRead(const std::string& text) {
 }
 
 std::function<void()> LibconfigWriter(const std::string& text) {
-    const auto document = std::make_shared<const Document>(text);
-    return [document] {
+    return [text, document = std::shared_ptr<Document>()]() mutable {
+        document = document ? document : std::make_shared<Document>(text);
         char* bytes = nullptr;
         std::size_t size = 0;
         FILE* const stream = open_memstream(&bytes, &size);

@@ -10,8 +10,10 @@ void BareRead(const std::string& text);
 void BareWrite(const std::string& text);
 
 void LibconfigRead(const std::string& text);
-/// Reads the text and gives what writes it again.
+/// What reads the text at its first call, and writes it again at each.
 std::function<void()> LibconfigWriter(const std::string& text);
 
+/// Whether libucl is there, without which the others must not be called.
+bool HasLibucl();
 void LibuclRead(const std::string& text);
 std::function<void()> LibuclWriter(const std::string& text);

@@ -7,8 +7,9 @@
 #include <vector>
 
 /// Rows are things done, columns are who does them; the first one added is ours. Each figure is the
-/// median of several runs that take turns with all the others, in nanoseconds for one unit. Beside
-/// the figures of the others stands how many times as long ours takes: below 1 is quicker.
+/// median of several runs that take turns with all the others, each in a process of its own and
+/// after one call that is not counted, in nanoseconds for one unit. Beside the figures of the
+/// others stands how many times as long ours takes: below 1 is quicker.
 class Comparison {
   public:
     /// `unit` is what the figures are for, for example "entry".
