@@ -9,20 +9,12 @@
 #include "memory.h"
 #include "state/startup.h"
 
-int main(int argumentCount, char** arguments) {
-    if (argumentCount != 2) {
-        std::cerr << "usage: other_side FOLDER\n";
-        return 2;
-    }
+int main(int /*argumentCount*/, char** arguments) {
     memory::machine.programDirectory = arguments[1];
     TieApplication();
     Main();
     driver::Click(frmMain.cmdRun);
-    if (memory::machine.started.size() != 1) {
-        std::cerr << "no engine was started\n";
-        return 1;
-    }
-    std::cout << memory::machine.started.front().parameters << '\n';
+    std::cout << memory::machine.started.at(0).parameters << '\n';
     try {
         driver::Click(frmMain.cmdExit);
     } catch (const memory::ProcessEnded&) {

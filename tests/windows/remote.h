@@ -6,63 +6,43 @@
 
 #include <functional>
 #include <string>
-#include <vector>
 
-#include "toolkit/lists.h"
+#include "platform/win32/control_ids.h"
+#include "toolkit/control.h"
 
 namespace remote {
 
-/// A program that runs beside the test.
-class Program {
-  public:
-    Program(const std::string& file, const std::string& arguments);
-    Program(const Program&) = delete;
-    Program& operator=(const Program&) = delete;
-    ~Program();
-    /// Waits for its end and gives its exit code.
-    DWORD End();
-
-  private:
-    PROCESS_INFORMATION process_ = {};
-};
-
-/// Counts what turned out right and what did not.
+/// Counts what turned out wrong, and says what was tried.
+inline int failures = 0;
 void Check(bool right, const std::string& what);
 void CheckEqual(const std::string& got, const std::string& wanted, const std::string& what);
-int Failures();
-
 void WaitUntil(const std::function<bool()>& isSo, const std::string& what);
-/// The visible window of that class with that caption, when it is there and takes input.
-HWND WaitForWindow(const wchar_t* className, const std::string& caption);
-/// One of Zorvane's own windows.
-HWND WaitForOurs(const std::string& caption);
-void WaitUntilGone(HWND window);
 
-/// The native control, in `window`, of a control of the window of the same kind in this program.
-HWND ControlIn(HWND window, const toolkit::Control& control);
+/// Starts a program; gives its process.
+HANDLE Start(const std::string& file);
+/// Waits for the end of a process and gives its exit code.
+DWORD ExitCode(HANDLE process);
+
+/// The window of that caption, one of Zorvane's own or of another class, once it shows and takes
+/// input; the native control of a control in the window that has the caption of its owner.
+HWND Find(const std::string& caption, const wchar_t* className = platform::WindowClassName);
+HWND Find(const toolkit::Control& control);
 
 void Press(HWND button);
 void Type(HWND field, const std::string& text);
-void PressKeys(HWND control, WPARAM key, int times = 1);
 /// Chooses a row of a combo box without an edit field, or a list, by its keys.
 void ChooseRow(HWND list, int row);
-/// Releases a mouse button over a point of a control.
-void Release(HWND control, UINT message, int x, int y);
-
 std::string TextOf(HWND control);
-std::vector<std::string> RowsOf(HWND listBox);
-int RowChosenIn(HWND comboBox);
-bool IsChecked(HWND box);
 
 /// Works the next file dialog of that title: gives the name and OK, or Cancel for an empty name.
 void AnswerFileDialog(const std::string& title, const std::string& name);
 /// Works the next folder chooser.
 void AnswerFolderDialog(const std::string& folder);
-/// Presses OK in the next message box and gives its text.
-std::string AnswerMessage();
+/// Checks the text of the next message box and presses OK.
+void CheckMessage(const std::string& wanted);
 
-/// Draws what the screen shows of a window into a BMP file, when there is a folder for pictures.
+/// Takes a picture of what the screen shows of a window, into a PNG file in that folder.
 void TakePicture(HWND window, const std::string& name);
-void PutPicturesInto(const std::string& folder);
+inline std::string pictureFolder;
 
 }  // namespace remote
