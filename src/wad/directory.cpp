@@ -13,7 +13,7 @@ bool IsPadding(char character) {
     return character == '\0' || character == ' ';
 }
 
-std::string_view TrimPadding(const char* field) {
+inline std::string_view TrimPadding(const char* field) {
     const char* end = field + lumpNameLength;
     while (end != field && IsPadding(end[-1])) {
         --end;

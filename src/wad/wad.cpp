@@ -42,15 +42,14 @@ void clsWad::ResetWad() {
 
 void clsWad::OpenWad(std::string fileName) {
     using Access = platform::File::Access;
-    platform::File file = platform::File::Open(fileName, Access::ReadWrite);
-    if (!file.IsOpen()) {
-        file = platform::File::Open(fileName, Access::Read);
-    }
-    if (!file.IsOpen() && !platform::IsOrdinaryFile(fileName)) {
+    if (!platform::IsOrdinaryFile(fileName)) {
         return;
     }
     ResetWad();
-    file_ = std::move(file);
+    file_ = platform::File::Open(fileName, Access::ReadWrite);
+    if (!file_.IsOpen()) {
+        file_ = platform::File::Open(fileName, Access::Read);
+    }
     if (!file_.IsOpen() || !ReadHeaderAndDirectory()) {
         ResetWad();
         return;

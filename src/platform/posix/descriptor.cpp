@@ -6,6 +6,7 @@
 #include <system_error>
 
 #include "platform/posix/descriptor.h"
+#include "platform/posix/paths.h"
 
 namespace platform {
 
@@ -17,15 +18,24 @@ bool Descriptor::Close() {
     return number_ < 0 || close(std::exchange(number_, -1)) == 0 || errno == EINTR;
 }
 
-Outcome OpenRegularFile(const std::string& native, int flags, Descriptor& descriptor) {
+Outcome OpenRegularFile(const std::string& path, int flags, Descriptor& descriptor) {
+    std::optional<std::string> native = NativePath(path);
+    if (!native) {
+        return Failure(ENOENT);
+    }
     struct stat facts = {};
-    if (stat(native.c_str(), &facts) == 0 && !S_ISREG(facts.st_mode)) {
+    bool isThere = stat(native->c_str(), &facts) == 0;
+    if (!isThere) {
+        native = TargetPath(path);
+        isThere = stat(native->c_str(), &facts) == 0;
+    }
+    if (isThere && !S_ISREG(facts.st_mode)) {
         return Failure(S_ISDIR(facts.st_mode) ? EISDIR : EINVAL);
     }
     // Should a pipe have come there since, it is not waited for.
     constexpr mode_t forEverybody = 0666;  // less what the user's umask takes away
     Descriptor opened(
-        open(native.c_str(), flags | O_CLOEXEC | O_NONBLOCK | O_NOCTTY, forEverybody));
+        open(native->c_str(), flags | O_CLOEXEC | O_NONBLOCK | O_NOCTTY, forEverybody));
     if (opened.Number() < 0 || fstat(opened.Number(), &facts) != 0) {
         return Failure(errno);
     }

@@ -36,9 +36,9 @@ class Descriptor {
     int number_;
 };
 
-/// Opens a regular file by `open` flags, close-on-exec. Anything else is refused and not waited
-/// for.
-Outcome OpenRegularFile(const std::string& native, int flags, Descriptor& descriptor);
+/// Opens the regular file that a path of the system names, by `open` flags, close-on-exec. Anything
+/// else is refused and not waited for.
+Outcome OpenRegularFile(const std::string& path, int flags, Descriptor& descriptor);
 
 /// Reads until `size` bytes are there or the file ends; `count` is how many. Asks again when a
 /// signal interrupts.

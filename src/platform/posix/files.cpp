@@ -8,7 +8,6 @@
 #include <utility>
 
 #include "platform/posix/descriptor.h"
-#include "platform/posix/paths.h"
 
 namespace platform {
 namespace {
@@ -29,10 +28,8 @@ int OpenFlags(File::Access access) {
 
 File File::Open(const std::string& path, Access access, Outcome* outcome) {
     File file;
-    const std::optional<std::string> native = TargetPath(path);
     Descriptor descriptor;
-    const Outcome opened =
-        native ? OpenRegularFile(*native, OpenFlags(access), descriptor) : Failure(ENOENT);
+    const Outcome opened = OpenRegularFile(path, OpenFlags(access), descriptor);
     file.handle_ = descriptor.Release();
     if (outcome != nullptr) {
         *outcome = opened;

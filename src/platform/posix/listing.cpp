@@ -29,6 +29,10 @@ bool IsOrdinary(const std::string& native) {
 }  // namespace
 
 bool IsOrdinaryFile(const std::string& path) {
+    const std::optional<std::string> exact = NativePath(path);
+    if (exact && IsOrdinary(*exact)) {
+        return true;
+    }
     const std::optional<std::string> native = FindPath(path);
     return native && IsOrdinary(*native);
 }

@@ -128,16 +128,11 @@ bool NewFile::Replaces(const Descriptor& file) const {
            facts.st_ino == old_.st_ino;
 }
 
-Outcome OpenToRead(const std::string& path, Descriptor& file) {
-    const std::optional<std::string> native = FindPath(path);
-    return native ? OpenRegularFile(*native, O_RDONLY, file) : Failure(ENOENT);
-}
-
 }  // namespace
 
 std::string ReadWholeFile(const std::string& path, Outcome& outcome) {
     Descriptor file;
-    outcome = OpenToRead(path, file);
+    outcome = OpenRegularFile(path, O_RDONLY, file);
     std::string bytes;
     struct stat facts = {};
     if (outcome && fstat(file.Number(), &facts) == 0) {
@@ -160,7 +155,7 @@ Outcome ReplaceWholeFile(const std::string& path, std::string_view bytes) {
 
 Outcome CopyWholeFile(const std::string& from, const std::string& to) {
     Descriptor source;
-    Outcome outcome = OpenToRead(from, source);
+    Outcome outcome = OpenRegularFile(from, O_RDONLY, source);
     if (!outcome) {
         return outcome;
     }
