@@ -84,7 +84,7 @@ void SetUp() {
     Press(frmSetup.cmdAdd, {{.typed = phase2}, {.shown = "Freedoom: Phase 2"}});
     Press(frmSetup.cmdAdd, {{.typed = Wads("castle.wad")},
                             {.shown = "Please select a game", .picture = "patch-is-no-game"}});
-    const std::tuple<std::string, std::string, std::string> engines[] = {
+    const std::tuple<std::string, const char*, std::string> engines[] = {
         {"Chocolate Doom", "chocolate-doom", ""},
         {"DSDA-Doom", "dsda-doom", ""},
         {"Doom Retro", "doomretro", "engine-folder"}};
@@ -105,7 +105,7 @@ void ChooseFilesAndMap() {
     Until([] { return QToolTip::text().toStdString() == Wads("castle.wad"); }, "a tooltip");
     Picture("tooltip-and-tip");
 
-    QTimer::singleShot(std::chrono::milliseconds(300), [] {
+    QTimer::singleShot(300, [] {
         Picture("menu");
         driver::AtNextMenu(0);
     });
@@ -217,7 +217,7 @@ int main(int argumentCount, char** arguments) {
     pictureFolder = arguments[3];
     TieApplication();
     Main();
-    QTimer::singleShot(std::chrono::seconds(80), [] { Check(false, "the tour comes to its end"); });
+    QTimer::singleShot(80'000, [] { Check(false, "the tour comes to its end"); });
     QTimer::singleShot(0, [=] { Play(arguments[1]); });
     return platform::RunEventLoop() + 1;
 }

@@ -13,7 +13,7 @@ struct DemoSave : Session {
         frmDemoSave.DemoFileName = folder.Write("temp.lmp", "demo");
         frmDemoSave.DemoExt = "lmp";
     }
-    ~DemoSave() override { frmDemoSave.Unload(); }
+    void TearDown() override { frmDemoSave.Unload(); }
     static void Show(std::function<void()> steps) {
         driver::InNextModal(std::move(steps));
         frmDemoSave.ShowModal();
@@ -26,18 +26,18 @@ struct DemoSave : Session {
 };
 
 TEST_F(DemoSave, SavesUnderTheNameWithTheEnginesExtension) {
-    const std::pair<const char*, const char*> rows[] = {{"run1", "run1.lmp"},
-                                                        {"run2.bak", "run2.lmp"},
-                                                        {"run.3.lmp", "run.3.lmp"},
-                                                        {"my.demos\\run", "my.lmp"}};
-    for (const auto& [typed, saved] : rows) {
+    const std::pair<const char*, const char*> names[] = {{"run1", "run1.lmp"},
+                                                         {"run2.bak", "run2.lmp"},
+                                                         {"run.3.lmp", "run.3.lmp"},
+                                                         {"my.demos\\run", "my.lmp"}};
+    for (const auto& row : names) {
         folder.Write("temp.lmp", "demo");
-        folder.Write(saved, "an older and longer one");
+        folder.Write(row.second, "an older and longer one");
         Show([&] {
             EXPECT_EQ(frmDemoSave.txtDemoFile.Text(), folder.Path("demos\\demo.lmp"));
-            SaveAs(typed);
+            SaveAs(row.first);
         });
-        EXPECT_EQ(folder.Read(saved), "demo");
+        EXPECT_EQ(folder.Read(row.second), "demo");
         EXPECT_FALSE(HasTemporary());
     }
 }
