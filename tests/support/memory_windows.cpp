@@ -153,7 +153,7 @@ void Press(toolkit::Window& window, Key key) {
     }
     const bool isEnter = key == Key::Enter;
     toolkit::Button* button = ButtonWith(window, isEnter ? toolkit::Default : toolkit::Cancel);
-    if (isEnter && focused != nullptr && focused->GetKind() == toolkit::Kind::Button) {
+    if (isEnter && focused != nullptr && As<toolkit::Button>(*focused) != nullptr) {
         button = As<toolkit::Button>(*focused);
     }
     if (button != nullptr) {
