@@ -6,8 +6,7 @@
 
 using namespace std::string_literals;
 
-class WadWriting : public ::testing::Test {
-  protected:
+struct WadWriting : testing::Test {
     std::string Bytes() { return folder.Read("new.wad"); }
     TempFolder folder;
     clsWad wad;
@@ -56,11 +55,7 @@ TEST_F(WadWriting, RefusalsChangeNothing) {
 }
 
 TEST_F(WadWriting, AddsToAnOpenedFileOverItsDirectory) {
-    const struct {
-        const char* name;
-        std::string before;
-        std::string after;
-    } rows[] = {
+    const std::tuple<const char*, std::string, std::string> rows[] = {
         {"one lump", Header("PWAD", 1, 14) + "xy" + Entry(12, 2, "OLD") + "tail",
          Header("PWAD", 2, 16) + "xyzz" + Entry(12, 2, "OLD") + Entry(14, 2, "NEW")},
         {"unfinished", Header("PWAD", -1, 12) + "rest",
@@ -69,12 +64,12 @@ TEST_F(WadWriting, AddsToAnOpenedFileOverItsDirectory) {
          Header("PWAD", 4, 14) + "zz" + Entry(12, 0, "OLD") + Entry(0, 0, "") + Entry(0, 0, "") +
              Entry(12, 2, "NEW")},
     };
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.name);
-        wad.OpenWad(folder.Write("new.wad", row.before));
+    for (const auto& [name, before, after] : rows) {
+        SCOPED_TRACE(name);
+        wad.OpenWad(folder.Write("new.wad", before));
         ASSERT_TRUE(wad.AddLump("new", "zz"));
         EXPECT_GE(wad.NumForName("new"), 0);
         ASSERT_TRUE(wad.WriteDirectory());
-        EXPECT_EQ(Bytes(), row.after);
+        EXPECT_EQ(Bytes(), after);
     }
 }
