@@ -7,12 +7,8 @@
 
 #include "config/config_map.h"
 
-namespace {
-
 constexpr double most = std::numeric_limits<double>::max();
 constexpr double infinite = std::numeric_limits<double>::infinity();
-
-}  // namespace
 
 TEST(Number, ReadsWhatATextBeginsWith) {
     const std::string manyZeros(400, '0');
