@@ -20,11 +20,8 @@ std::string ReadAll(const File& file, std::int64_t position) {
 TEST(Files, AreReadAndWrittenAtAbsolutePositions) {
     const TempFolder folder;
     Outcome outcome;
-    EXPECT_FALSE(File::Open(folder.Path("a.bin"), File::Access::Read, &outcome).IsOpen());
-    EXPECT_FALSE(outcome);
-    EXPECT_FALSE(outcome.reason.empty());
-    EXPECT_FALSE(File::Open(folder.Path("a.bin"), File::Access::ReadWrite).IsOpen());
-
+    EXPECT_FALSE(File::Open(folder.Path("a.bin"), File::Access::ReadWrite, &outcome).IsOpen());
+    EXPECT_FALSE(outcome || outcome.reason.empty());
     File file = File::Open(folder.Path("a.bin"), File::Access::Create, &outcome);
     ASSERT_TRUE(file.IsOpen()) << outcome.reason;
     EXPECT_TRUE(file.WriteAt(4, std::string_view("b\0\r\n\xff", 5)));
@@ -32,9 +29,7 @@ TEST(Files, AreReadAndWrittenAtAbsolutePositions) {
     EXPECT_TRUE(file.Flush());
     EXPECT_EQ(file.Size(), 9);
     EXPECT_EQ(ReadAll(file, 1), std::string("a\0\0b\0\r\n\xff", 8));
-    EXPECT_EQ(ReadAll(file, 9), "");
-    EXPECT_EQ(ReadAll(file, -1), "");
-
+    EXPECT_EQ(ReadAll(file, 9) + ReadAll(file, -1), "");
     File reader = File::Open(folder.Path("A.BIN"), File::Access::Read);
     ASSERT_TRUE(reader.IsOpen());
     EXPECT_EQ(ReadAll(reader, 0), ReadAll(file, 0));
@@ -47,7 +42,6 @@ TEST(Files, AreReadAndWrittenAtAbsolutePositions) {
 TEST(Files, OnlyRegularFilesAreOrdinary) {
     const TempFolder folder;
     folder.Write("sub/Name.Wad", "x");
-    EXPECT_TRUE(platform::IsOrdinaryFile(folder.Path("sub/Name.Wad")));
     EXPECT_TRUE(platform::IsOrdinaryFile(folder.Path("SUB/name.wad")));
     EXPECT_TRUE(platform::Exists(folder.Path("sub")));
     EXPECT_FALSE(platform::IsOrdinaryFile(folder.Path("sub")));
@@ -57,7 +51,6 @@ TEST(Files, OnlyRegularFilesAreOrdinary) {
 
     EXPECT_EQ(platform::LookUpFileName(folder.Path("sub/NAME.wad")), "Name.Wad");
     EXPECT_EQ(platform::LookUpFileName(folder.Path("sub")), "");
-    EXPECT_EQ(platform::LookUpFileName(folder.Path("none")), "");
     EXPECT_EQ(platform::LookUpFileName("https://example.org/a.txt"), std::nullopt);
 }
 
