@@ -26,17 +26,12 @@ struct DemoSave : Session {
 };
 
 TEST_F(DemoSave, SavesUnderTheNameWithTheEnginesExtension) {
-    const std::pair<const char*, const char*> names[] = {{"run1", "run1.lmp"},
-                                                         {"run2.bak", "run2.lmp"},
-                                                         {"run.3.lmp", "run.3.lmp"},
-                                                         {"my.demos\\run", "my.lmp"}};
+    const std::pair<const char*, const char*> names[] = {
+        {"run1", "run1.lmp"}, {"run2.bak", "run2.lmp"}, {"my.demos\\run", "my.lmp"}};
     for (const auto& row : names) {
         folder.Write("temp.lmp", "demo");
         folder.Write(row.second, "an older and longer one");
-        Show([&] {
-            EXPECT_EQ(frmDemoSave.txtDemoFile.Text(), folder.Path("demos\\demo.lmp"));
-            SaveAs(row.first);
-        });
+        Show([&] { SaveAs(row.first); });
         EXPECT_EQ(folder.Read(row.second), "demo");
         EXPECT_FALSE(HasTemporary());
     }

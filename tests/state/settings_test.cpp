@@ -2,49 +2,43 @@
 
 #include "session.h"
 #include "state/records.h"
-#include "text/ascii.h"
 
 using namespace std::string_literals;
 
 namespace {
 
-class SettingsCase : public Session {
-  protected:
+struct SettingsCase : Session {
     SettingsCase() { DefineEngine("Sample Engine"); }
     void ExpectWritten(std::string_view part) const {
         EXPECT_NE(SettingsBytes().find(part), std::string::npos) << SettingsBytes();
     }
 };
 
-/// The file of a new installation, the folder of the program apart.
-std::string Defaults(const std::string& directory) {
-    const std::string head =
-        "type = \"Zorvane Configuration file\";\r\nengine = -1;\r\niwad = -1;\r\nskill = 2;\r\n"
-        "map = -1;\r\nfastmonsters = 0;\r\nnomonsters = 0;\r\nrespawnmonsters = 0;\r\n"
-        "deathmatch = 0;\r\nparameters = \"\";\r\nlastdir = \"";
-    return head + ReplaceAll(directory, "\\", "\\\\") +
-           "\";\r\n\r\niwads\r\n{\r\n}\r\n\r\n\r\nengines\r\n{\r\n}\r\n\r\n\r\npwads\r\n{\r\n}\r\n"
-           "\r\n";
-}
-
 TEST_F(SettingsCase, FirstRunWritesTheDefaultsByteForByte) {
     ASSERT_TRUE(Start());
-    EXPECT_EQ(SettingsBytes(), Defaults(folder.Path()));
+    const std::string expected =
+        "type = \"Zorvane Configuration file\";\r\nengine = -1;\r\niwad = -1;\r\nskill = 2;\r\n"
+        "map = -1;\r\nfastmonsters = 0;\r\nnomonsters = 0;\r\nrespawnmonsters = 0;\r\n"
+        "deathmatch = 0;\r\nparameters = \"\";\r\nlastdir = \"" +
+        Stored("") +
+        "\";\r\n\r\niwads\r\n{\r\n}\r\n\r\n\r\nengines\r\n{\r\n}\r\n\r\n\r\npwads\r\n{\r\n}\r\n"
+        "\r\n";
+    EXPECT_EQ(SettingsBytes(), expected);
     EXPECT_EQ(std::filesystem::file_size(folder.Native("autodetect.cfg")), 0U);
+    SettingsFileName = folder.Path("missing\\zorvane.cfg");
+    Exit();
+    EXPECT_TRUE(memory::TakeMessage().starts_with("The settings could not be saved to " +
+                                                  folder.Path("missing\\zorvane.cfg\r\n")));
+    EXPECT_EQ(SettingsBytes(), expected);
 }
 
 TEST_F(SettingsCase, TakesTheListsFromTheFileAndWritesThemFresh) {
-    std::string pwads;
-    for (int i = 0; i < 12; ++i) {
-        pwads += "k" + std::to_string(99 - i) + " = \"C:\\\\" + std::to_string(i) + ".wad\";";
-    }
     WriteSettings(
         "unknown = \"kept\"; engine = 0; iwad = 0; skill = 2; map = -1;"
         "iwads { 7 = \"A \\\"game\\\"|C:\\\\a|b.wad\"; 3 = \"no bar\"; }"
         "engines { Gone { path = \"x\"; } Sample\1Engine {"
         "path = \"C:\\\\Sample\"; options = \"1x100000000000011\"; extra = 1; } }"
-        "pwads {" +
-        pwads + "}");
+        "pwads { b = \"C:\\\\x.wad\"; a = 7; }");
     ASSERT_TRUE(Start());
     ASSERT_EQ(GameWadCount(), 2);
     EXPECT_EQ(GameWadAt(0).name, "A \"game\"");
@@ -56,7 +50,7 @@ TEST_F(SettingsCase, TakesTheListsFromTheFileAndWritesThemFresh) {
         "engines\r\n{\r\n\t\r\n\tSample\1Engine\r\n\t{\r\n"
         "\t\tpath = \"C:\\\\Sample\";\r\n\t\toptions = \"1010000000000001\";\r\n"
         "\t}\r\n\t\r\n}\r\n");
-    ExpectWritten("\t9 = \"C:\\\\9.wad\";\r\n\t10 = \"C:\\\\10.wad\";\r\n\t11 = ");
+    ExpectWritten("pwads\r\n{\r\n\t0 = \"C:\\\\x.wad\";\r\n\t1 = \"7\";\r\n}");
     const std::string file = SettingsBytes();
     ASSERT_TRUE(Start());
     Exit();
@@ -64,8 +58,7 @@ TEST_F(SettingsCase, TakesTheListsFromTheFileAndWritesThemFresh) {
 }
 
 TEST_F(SettingsCase, AFileOfAnotherKindStopsTheProgramAndStays) {
-    const std::string whole = Defaults(folder.Path());
-    const std::string bad[] = {"", "type = \"zorvane configuration file\";", whole.substr(30),
+    const std::string bad[] = {"", "type = \"zorvane configuration file\";", "engine = 1;",
                                "\xff\xfe\0{{{{"s, "type { a = \"Zorvane Configuration file\"; }"};
     for (const std::string& bytes : bad) {
         folder.Write("zorvane.cfg", bytes);
@@ -80,7 +73,8 @@ TEST_F(SettingsCase, AFileOfAnotherKindStopsTheProgramAndStays) {
 }
 
 TEST_F(SettingsCase, ComesUpWithWhatIsLeftOfAFile) {
-    const std::string whole = Defaults(folder.Path());
+    ASSERT_TRUE(Start());
+    const std::string whole = SettingsBytes();
     for (std::size_t length = 45; length < whole.size(); length += 7) {
         SCOPED_TRACE(length);
         folder.Write("zorvane.cfg", whole.substr(0, length));

@@ -2,11 +2,12 @@
 
 #include "mainwindow/main_window.h"
 #include "session.h"
+#include "state/engine_files.h"
 #include "state/records.h"
 
 namespace {
 
-class Startup : public Session {};
+struct Startup : Session {};
 
 TEST_F(Startup, StopsWithoutAnEngineDefinitionAndLeavesTheSettingsAlone) {
     WriteSettings("precious = 1;");
@@ -22,51 +23,49 @@ TEST_F(Startup, StopsWithoutAnEngineDefinitionAndLeavesTheSettingsAlone) {
     EXPECT_EQ(EngineCount(), 0);
 }
 
-TEST_F(Startup, ClosingTheWindowSavesLikeExit) {
-    DefineEngine("One");
-    ASSERT_TRUE(Start());
-    driver::Choose(frmMain.cmbSkill, 4);
-    Exit();
-    const std::string byExit = SettingsBytes();
-    ASSERT_TRUE(Start());
-    EXPECT_EQ(frmMain.cmbSkill.ListIndex(), 4);
-    EXPECT_TRUE(Ends([] { driver::Close(frmMain); }));
-    EXPECT_EQ(SettingsBytes(), byExit);
+TEST_F(Startup, PassesOverWhatIsNoEngineAndTakesWhatIsThere) {
+    for (const char* text : {"type = \"ZORVANE ENGINE FILE\";", "type = 1;", "\xff\x01{{{\"\\9"}) {
+        ReadEngineFile(folder.Write("one.cfg", text));
+        EXPECT_EQ(EngineCount(), 0) << text;
+    }
+    ReadEngineFile(folder.Write("one.cfg",
+                                "type = \"Zorvane engine file\"; executable { a = 1; } demoext = 7;"
+                                "parameters = \"x\"; filetypes = 1;"));
+    ASSERT_EQ(EngineCount(), 1);
+    EXPECT_TRUE(EngineAt(0).parameters.empty() && EngineAt(0).filetypes.empty());
+    EXPECT_EQ(EngineAt(0).executable + EngineAt(0).realname + EngineAt(0).demoext, "7");
 }
 
-TEST_F(Startup, SaysSoWhenTheSettingsCannotBeWritten) {
-    DefineEngine("One");
-    ASSERT_TRUE(Start());
-    const std::string before = SettingsBytes();
-    SettingsFileName = folder.Path("missing") + "\\zorvane.cfg";
-    Exit();
-    EXPECT_TRUE(memory::TakeMessage().starts_with("The settings could not be saved to " +
-                                                  SettingsFileName + "\r\n"));
-    EXPECT_EQ(SettingsBytes(), before);
+TEST_F(Startup, ListsEnginesByNameAndTheFirstOfTwoEqualsCounts) {
+    const std::string text = "type = \"Zorvane engine file\"; realname = \"";
+    folder.Write("engines/b.cfg", text + "Same Name\"; executable = \"second\";");
+    folder.Write("engines/A.cfg", text + "Same Name\"; executable = \"first\";");
+    folder.Write("engines/c.CFG", text + "Other\";");
+    folder.Write("engines/d.txt", text + "No definition\";");
+    ScanEngineFiles(folder.Path("engines"));
+    ASSERT_EQ(EngineCount(), 2);
+    EXPECT_EQ(EngineAt(0).executable, "first");
+    EXPECT_EQ(EngineAt(1).realname, "Other");
+    EXPECT_EQ(EngineKey("Two  blanks"), "Two\1\1blanks");
 }
 
 TEST_F(Startup, QuotedPathsOfTheCommandLineReplaceTheFileList) {
     DefineEngine("One");
-    const struct {
-        const char* line;
-        std::vector<std::string> files;
-    } rows[] = {
+    const std::pair<const char*, std::vector<std::string>> rows[] = {
         {"", {"C:\\stored.wad"}},
         {"\"C:\\a b.wad\" skipped \"\"\"C:\\c.wad\" \"dropped", {"C:\\a b.wad", "", "C:\\c.wad"}},
         {"C:\\unquoted.wad", {}},
     };
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.line);
+    for (const auto& [line, files] : rows) {
         WriteSettings("pwads { 0 = \"C:\\\\stored.wad\"; }");
-        memory::machine.commandLine = row.line;
+        memory::machine.commandLine = line;
         ASSERT_TRUE(Start());
-        EXPECT_EQ(driver::ShownItems(frmMain.lstFiles), row.files);
-        EXPECT_EQ(FileList.Count() + 1, frmMain.lstFiles.ListCount());
-        EXPECT_EQ(frmMain.lstFiles.ListIndex(), row.files.empty() ? -1 : 0);
+        EXPECT_EQ(driver::ShownItems(frmMain.lstFiles), files);
+        EXPECT_EQ(frmMain.lstFiles.ListIndex(), files.empty() ? -1 : 0);
         Exit();
         memory::machine.commandLine = "";
         ASSERT_TRUE(Start());
-        EXPECT_EQ(driver::ShownItems(frmMain.lstFiles), row.files) << "and that is what is saved";
+        EXPECT_EQ(driver::ShownItems(frmMain.lstFiles), files) << "and that is what is saved";
     }
 }
 

@@ -1,5 +1,6 @@
 #include "launch/command_line.h"
 
+#include "launch/run_program.h"
 #include "session.h"
 
 namespace {
@@ -17,17 +18,17 @@ TEST(CommandLine, WarpArguments) {
     }
 }
 
-struct EngineLine : Session {
-    EngineLine() { Engines.emplace_back().parameters = {{"", "-noSound"}, {"", "-2"}, {"", "-3"}}; }
+struct Launching : Session {
+    Launching() { Engines.emplace_back().parameters = {{"", "-noSound"}, {"", "-2"}, {"", "-3"}}; }
 };
 
-TEST_F(EngineLine, SwitchesStandInTheirOrderAndInLowerCase) {
+TEST_F(Launching, SwitchesStandInTheirOrderAndInLowerCase) {
     EXPECT_EQ(LaunchCommandLine(0, "D:\\a.wad"), " -iwad D:\\a.wad");
     EngineAt(0).options[2] = EngineAt(0).options[0] = EngineAt(0).options[9] = true;
     EXPECT_EQ(LaunchCommandLine(0, "D:\\a b.wad"), "-nosound -3 -iwad D:\\a b.wad");
 }
 
-TEST_F(EngineLine, QuickStartIsRightBlankForBlank) {
+TEST_F(Launching, QuickStartIsRightBlankForBlank) {
     clsStringArray files;
     QuickStart start;
     start.gameWad = "D:\\iwads\\game.wad";
@@ -35,10 +36,9 @@ TEST_F(EngineLine, QuickStartIsRightBlankForBlank) {
     start.map = "E1M1";
     EXPECT_EQ(QuickStartCommandLine(start, files),
               " -iwad \"D:\\iwads\\game.wad\" -skill 3 -warp 1 1  ");
-    EngineAt(0).options[0] = true;
+    EngineAt(0).options[0] = start.noMonsters = start.fastMonsters = true;
     files.Add("D:\\wads\\Castle.wad");
     files.Add("D:\\wads\\patch.deh");
-    start.noMonsters = start.fastMonsters = true;
     start.map = "MAP07";
     start.parameters = "-turbo 120";
     const std::string head =
@@ -52,6 +52,25 @@ TEST_F(EngineLine, QuickStartIsRightBlankForBlank) {
     start.recordTo = "D:\\engines\\port.old\\temp.lmp";
     EXPECT_EQ(QuickStartCommandLine(start, files),
               head + "-respawn -warp 7 -record \"D:\\engines\\port.old\\temp\" -turbo 120");
+}
+
+TEST_F(Launching, CompletesBareNamesAndStartsInTheFilesFolder) {
+    const std::string text = folder.Write("readme.txt", "");
+    const std::string game = folder.Write("port/game.exe", "");
+    const std::string absent[] = {"D:readme.txt", "docs/readme.txt"};
+    const std::tuple<std::string, std::string, std::string> rows[] = {
+        {"readme.txt", text, folder.Path() + "\\"},
+        {game, game, folder.Path("port\\")},
+        {absent[0], absent[0], absent[0]},
+        {absent[1], absent[1], absent[1]},
+        {"https://example.org/a", "https://example.org/a", ""},
+    };
+    for (auto [file, started, directory] : rows) {
+        EXPECT_NE(RunProgram(file, "-x", ShowMaximized, false), 0);
+        EXPECT_EQ(file, started) << "the caller's text follows";
+        EXPECT_EQ(memory::machine.started.back().file, started);
+        EXPECT_EQ(memory::machine.started.back().directory, directory);
+    }
 }
 
 }  // namespace
