@@ -8,7 +8,6 @@
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QTest>
-#include <filesystem>
 
 #include "driver.h"
 #include "platform/dialogs.h"
@@ -24,22 +23,21 @@ QWidget* Dialog() {
 }
 
 QLineEdit* Field() {
-    auto* fileName = Dialog()->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
-    return fileName != nullptr ? fileName : Dialog()->findChild<QLineEdit*>();
+    return Dialog()->findChild<QLineEdit*>();
 }
 
-/// Types into the dialog's line, as an input method does, and presses Enter; no text is Cancel.
+/// Types over what the field proposes, as an input method does, and presses Enter; no text is
+/// Cancel.
 void Answer(const std::string& text) {
     if (text.empty()) {
         QTest::keyClick(Dialog(), Qt::Key_Escape);
         return;
     }
-    QLineEdit* field = Field();
-    field->selectAll();
+    Field()->selectAll();
     QInputMethodEvent typed;
-    typed.setCommitString(QString::fromStdString(text));
-    QApplication::sendEvent(field, &typed);
-    QTest::keyClick(field, Qt::Key_Return);
+    typed.setCommitString(text.c_str());
+    QApplication::sendEvent(Field(), &typed);
+    QTest::keyClick(Field(), Qt::Key_Return);
 }
 
 std::string Buffer(std::string text, std::size_t size = platform::FileBufferSize) {
@@ -80,10 +78,10 @@ TEST(Dialogs, FillTheRecordWithTheFilesPicked) {
             .lpstrTitle = "Pick",
             .Flags = row.flags};
         driver::InNextModal([&] {
+            EXPECT_EQ(Dialog()->windowTitle(), "Pick");
+            EXPECT_EQ(Field()->text(), "") << "the name field starts empty";
             const auto* dialog = qobject_cast<QFileDialog*>(Dialog());
-            EXPECT_EQ(dialog->windowTitle(), QStringLiteral("Pick"));
-            EXPECT_EQ(Field()->text().toStdString(), "") << "the name field starts empty";
-            EXPECT_TRUE(dialog->selectedNameFilter().startsWith(QStringLiteral("WAD files (")));
+            EXPECT_TRUE(dialog->selectedNameFilter().startsWith("WAD files ("));
             Answer(row.typed);
         });
         bool wasAsked = false;
@@ -101,25 +99,21 @@ TEST(Dialogs, FillTheRecordWithTheFilesPicked) {
 
 TEST(Dialogs, ChooseFolders) {
     const TempFolder folder;
-    driver::InNextModal([&] {
-        QString instruction;
-        for (const auto* label : Dialog()->findChildren<QLabel*>()) {
-            instruction += label->text() + QLatin1Char('|');
-        }
-        EXPECT_TRUE(instruction.contains(QStringLiteral("In which folder?|")));
-        Answer(folder.Native().string());
-    });
-    EXPECT_EQ(platform::BrowseForFolderPath({nullptr, "In which folder?"}),
-              Buffer(folder.Path(), platform::FolderBufferSize));
-    driver::InNextModal([] { Answer(""); });
-    EXPECT_EQ(platform::BrowseForFolderPath({nullptr, "x"}), "");
+    for (const std::string& typed : {folder.Native().string(), ""s}) {
+        driver::InNextModal([&] {
+            const auto labels = Dialog()->findChildren<QLabel*>();
+            EXPECT_TRUE(std::ranges::any_of(labels, [](auto* l) { return l->text() == "Where?"; }));
+            Answer(typed);
+        });
+        EXPECT_EQ(platform::BrowseForFolderPath({nullptr, "Where?"}),
+                  typed.empty() ? "" : Buffer(folder.Path(), platform::FolderBufferSize));
+    }
 }
 
 TEST(Messages, ShowTheirExactText) {
     driver::InNextModal([] {
-        const auto* box = qobject_cast<QMessageBox*>(Dialog());
-        EXPECT_EQ(box->text().toStdString(), "One <b>\n/two");
-        EXPECT_EQ(box->windowTitle().toStdString(), "Zorvane");
+        EXPECT_EQ(qobject_cast<QMessageBox*>(Dialog())->text(), "One <b>\n/two");
+        EXPECT_EQ(Dialog()->windowTitle(), "Zorvane");
         Answer("");
     });
     platform::ShowMessage("One <b>\r\nZ:\\two", "Zorvane", platform::MessageIcon::Critical);
@@ -128,12 +122,12 @@ TEST(Messages, ShowTheirExactText) {
 TEST(Messages, AskForALine) {
     for (const char* typed : {"d\xC3\xB6", ""}) {
         driver::InNextModal([&] {
-            EXPECT_EQ(Field()->selectedText().toStdString(), "Doom") << "typing replaces it";
+            EXPECT_EQ(Field()->selectedText(), "Doom") << "typing replaces it";
             Answer(typed);
         });
         EXPECT_EQ(platform::AskForText("Name?", "Enter a name", "Doom"), typed);
     }
-    driver::InNextModal([] { QTest::keyClick(Dialog()->focusWidget(), Qt::Key_Return); });
+    driver::InNextModal([] { QTest::keyClick(Field(), Qt::Key_Return); });
     EXPECT_EQ(platform::AskForText("Name?", "Enter a name", "caf\xE9"), "caf\xE9")
         << "what was not touched keeps its bytes";
 }
@@ -156,8 +150,7 @@ TEST(PickedFiles, FillTheBufferOfTheRecord) {
 
 TEST(PickedFiles, FiltersPassOverCase) {
     const QStringList filters = platform::qt::NameFilters("Demos\0*.lmp;*.Cdm\0All\0*.*"s);
-    EXPECT_EQ(filters.join(QLatin1Char('|')).toStdString(),
-              "Demos (*.lmp *.Cdm *.LMP *.CDM)|All (*)");
+    EXPECT_EQ(filters.join('|'), "Demos (*.lmp *.Cdm *.LMP *.CDM)|All (*)");
 }
 
 }  // namespace
