@@ -22,27 +22,14 @@ TEST(ConfigMap, KeepsItsOrderThroughEveryChange) {
     EXPECT_FALSE(map.Exists("b"));
 }
 
-TEST(ConfigMap, OfEqualKeysTheLastValueCountsAtTheFirstPlace) {
-    for (const int count : {4, 200}) {
-        std::vector<ConfigEntry> entries(static_cast<std::size_t>(count));
-        for (int place = 0; place < count; ++place) {
-            entries[place] = {place % 2 == 0 ? "even" : std::to_string(place), place};
-        }
-        const ConfigMap map(std::move(entries));
-        ASSERT_EQ(map.Count(), 1 + count / 2);
-        EXPECT_EQ(map.Keys()[0], "even");
-        EXPECT_EQ(map.Find("even")->AsWhole(), count - 2);
-        for (int place = 1; place < count; place += 2) {
-            EXPECT_EQ(map.Keys()[(place + 1) / 2], std::to_string(place));
-            EXPECT_EQ(map.Find(std::to_string(place))->AsWhole(), place);
-        }
-    }
-}
-
 TEST(ConfigMap, HoldsAMillionKeysAndLetsThemGo) {
     constexpr int keys = 1'000'000;
-    ConfigMap map;
-    for (int key = 0; key < keys; ++key) {
+    std::vector<ConfigEntry> entries(keys);
+    for (int place = 0; place < keys; ++place) {
+        entries[place] = {std::to_string(place / 2), place / 2 - 1 + place % 2};
+    }
+    ConfigMap map(std::move(entries));  // each key twice, the last value counts
+    for (int key = keys / 2; key < keys; ++key) {
         ASSERT_TRUE(map.Add(std::to_string(key), key));
     }
     for (int key = 0; key < keys; ++key) {

@@ -35,21 +35,15 @@ TEST(Configuration, SharesOrCopiesTheMapsItIsGiven) {
 TEST(Configuration, LivesInAFile) {
     const TempFolder folder;
     clsConfiguration document;
-    document.WriteSetting("old", 1);
-    EXPECT_TRUE(document.LoadConfiguration(folder.Path("new.cfg")));
-    EXPECT_EQ(document.Root()->Count(), 0);
-    EXPECT_EQ(std::filesystem::file_size(folder.Native("new.cfg")), 0U);
-
-    document.WriteSetting("a", "\t\xFF");
-    EXPECT_TRUE(document.SaveConfiguration(folder.Path("new.cfg")));
-    EXPECT_EQ(folder.Read("new.cfg"), "a = \"\\t\xFF\";\r\n");
-    EXPECT_TRUE(document.LoadConfiguration(folder.Write("other.cfg", "b=\"x\r\";\r\n")));
-    EXPECT_EQ(document.OutputConfiguration(), "b = \"x\";\r\n");
-
-    std::filesystem::create_directory(folder.Native("folder"));
+    EXPECT_TRUE(document.LoadConfiguration(folder.Write("old.cfg", "a=\"\t\xFF\r\";\r\n")));
+    folder.Write("folder/file", "");
     for (const char* name : {"folder", "no folder\\x.cfg"}) {
         EXPECT_NE(document.LoadConfiguration(folder.Path(name)).reason, "");
         EXPECT_NE(document.SaveConfiguration(folder.Path(name)).reason, "");
     }
-    EXPECT_EQ(document.OutputConfiguration(), "b = \"x\";\r\n");
+    EXPECT_TRUE(document.SaveConfiguration(folder.Path("new.cfg")));
+    EXPECT_EQ(folder.Read("new.cfg"), "a = \"\xFF\";\r\n");
+    EXPECT_TRUE(document.LoadConfiguration(folder.Path("absent.cfg")));
+    EXPECT_EQ(document.Root()->Count(), 0);
+    EXPECT_TRUE(std::filesystem::exists(folder.Native("absent.cfg")));
 }

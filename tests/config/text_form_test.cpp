@@ -1,17 +1,19 @@
-#include "config/reader.h"
-
 #include <gtest/gtest.h>
 
-#include "config/config_map.h"
+#include "config/configuration.h"
+#include "config/reader.h"
 #include "config/writer.h"
 
 using namespace std::string_literals;
 
 namespace {
 
-/// The tree that a text gives, on one line.
-std::string Tree(std::string_view text, std::size_t position = 0) {
-    return OutputBlock(*ParseBlock(position, text), 0, "", false);
+/// What is written of the tree that a text gives, on one line if nothing else is asked for.
+std::string Rewritten(std::string_view text, std::string_view newLine = "",
+                      bool whitespace = false) {
+    clsConfiguration document;
+    document.InputConfiguration(text);
+    return document.OutputConfiguration(newLine, whitespace);
 }
 
 }  // namespace
@@ -79,16 +81,52 @@ TEST(Reader, MakesOneTreeOfEachText) {
         {"too large", "a=1e999;b=-1.5e99;", "a=1.79769313486232E+308;b=-3.402823E+38;"},
     };
     for (const auto& [name, text, tree] : rows) {
-        EXPECT_EQ(Tree(text), tree) << name;
+        EXPECT_EQ(Rewritten(text), tree) << name;
     }
 }
 
 TEST(Reader, GoesOnFromAPositionAndSaysWhereItStopped) {
     const std::string text = "a=1;}b=2;}";
     std::size_t position = 0;
-    ParseBlock(position, text);
+    EXPECT_TRUE(ParseBlock(position, text)->Exists("a"));
     EXPECT_EQ(position, 5U);
-    EXPECT_EQ(Tree(text, position), "b=2;");
-    ParseBlock(position, text);
+    EXPECT_FALSE(ParseBlock(position, text)->Exists("a"));
     EXPECT_EQ(position, text.size());
+}
+
+TEST(Writer, LaysBothFormsOutByteForByte) {
+    const std::string_view sample =
+        "type = \"Sample\";\r\n"
+        "engine = -1;\r\n"
+        "\r\n"
+        "iwads\r\n"
+        "{\r\n"
+        "\t0 = \"Sample|C:\\\\sample.wad\";\r\n"
+        "}\r\n"
+        "\r\n"
+        "lastdir = \"C:\\\\Games\";\r\n";
+    EXPECT_EQ(Rewritten(sample, "\r\n", true), sample);
+    EXPECT_EQ(
+        Rewritten(sample, "\r\n", false),
+        "type=\"Sample\";\r\nengine=-1;\r\niwads\r\n{\r\n0=\"Sample|C:\\\\sample.wad\";\r\n}\r\n"
+        "lastdir=\"C:\\\\Games\";\r\n");
+}
+
+TEST(Writer, IndentsStructuresInStructures) {
+    EXPECT_EQ(Rewritten("a{b{c=1;}d{}}", "\n", true),
+              "\na\n{\n\t\n\tb\n\t{\n\t\tc = 1;\n\t}\n\t\n\t\n\td\n\t{\n\t}\n\t\n}\n\n");
+    ConfigMap map;
+    map.Add("a", std::make_shared<ConfigMap>());
+    EXPECT_EQ(OutputBlock(map, 2, "|", true), "\t\t|\t\ta|\t\t{|\t\t}|\t\t|");
+}
+
+TEST(Writer, EscapesFiveCharactersAndEveryTextComesBack) {
+    EXPECT_EQ(EscapeText("\\n\n\r\t\"\0\x1F\xFF;'"s), "\\\\n\\n\\r\\t\\\"\0\x1F\xFF;'"s);
+    std::string text = "\r\n\"\\;}";
+    for (int code = 0; code < 256; ++code) {
+        text += static_cast<char>(code);
+    }
+    clsConfiguration document;
+    document.InputConfiguration("a=\"" + EscapeText(text) + "\";");
+    EXPECT_EQ(document.ReadSetting("a").AsText(), text);
 }
