@@ -3,6 +3,7 @@
 #include "launch/command_line.h"
 #include "mainwindow/main_window.h"
 #include "session.h"
+#include "setup/dialogs/dialogs.h"
 #include "setup/engine_settings.h"
 #include "state/records.h"
 #include "state/settings.h"
@@ -20,6 +21,11 @@ struct SetupCase : Session {
         WriteSettings("iwad = 2; iwads { 0 = \"a|C:\\\\A.wad\"; 1 = \"b|B\"; 2 = \"c|C\"; }");
         EXPECT_TRUE(Start());
     }
+    static std::string Open(std::uint32_t flags, const std::string& answer,
+                            const std::string& initial = "") {
+        memory::machine.files = {answer};
+        return OpenFileDialog(frmSetup, "Title", "All|*.*", initial, flags);
+    }
     /// Does the steps in the dialog and accepts.
     static void InSetup(const std::function<void()>& steps) {
         driver::InNextModal([=] {
@@ -30,9 +36,35 @@ struct SetupCase : Session {
     }
 };
 
+TEST_F(SetupCase, LastdirFollowsWhatWasOpened) {
+    const std::tuple<std::uint32_t, std::string, std::string> rows[] = {
+        {OneFileFlags, "D:\\a.wad", "D:"},
+        {SeveralFilesFlags, "D:\\wads\\a.wad", "D:\\wads"},
+        {SeveralFilesFlags, std::string("D:\\\0a\0b", 7), "D:\\"},
+        {OneFileFlags, std::string(256, 'x'), "D:\\"},
+    };
+    for (const auto& [flags, answer, lastdir] : rows) {
+        EXPECT_EQ(Open(flags, answer), answer);
+        EXPECT_EQ(SettingText("lastdir"), lastdir);
+    }
+    EXPECT_EQ(Open(OneFileFlags, "") + Open(OneFileFlags, "C:\\" + std::string(254, 'x')), "");
+    memory::machine.files = {"E:\\saved\\x.lmp"};
+    EXPECT_EQ(SaveFileDialog(frmSetup, "Save", "All|*.*", "", SaveFileFlags), "E:\\saved\\x.lmp");
+    EXPECT_EQ(SettingText("lastdir"), "D:\\") << "nothing chosen, or saved, leaves it alone";
+}
+
+TEST_F(SetupCase, FileDialogsStartWhereTheInitialFileLies) {
+    Open(OneFileFlags, "", folder.Write("sub/there.lmp", ""));
+    Open(OneFileFlags, "", folder.Path("sub\\gone.lmp"));
+    const auto& questions = memory::machine.fileQuestions;
+    EXPECT_EQ(questions[0].lpstrInitialDir, folder.Path("sub") + "\\");
+    EXPECT_EQ(questions[1].lpstrInitialDir, SettingText("lastdir"));
+    EXPECT_EQ(questions[0].lpstrFile, std::string(258, '\0')) << "the name field starts empty";
+    EXPECT_EQ(questions[0].hwndOwner, &frmSetup);
+}
+
 TEST_F(SetupCase, RemovingKeepsTheRowNumberOrFallsBackToTheFirst) {
     InSetup([] {
-        EXPECT_EQ(driver::ShownItems(frmSetup.lvwIWADs), (Texts{"a|C:\\A.wad", "b|B", "c|C"}));
         driver::Choose(frmSetup.lvwIWADs, 2);
         driver::Click(frmSetup.cmdRemove);
         EXPECT_EQ(driver::ShownItems(frmSetup.lvwIWADs), (Texts{"a|C:\\A.wad", "c|C"}));
