@@ -21,20 +21,13 @@ std::string Rewritten(std::string_view text, std::string_view newLine = "",
 TEST(Reader, MakesOneTreeOfEachText) {
     const std::tuple<const char*, std::string, std::string> rows[] = {
         {"whole document",
-         "// a comment\n"
-         "name = \"C:\\\\games\";   /* another */\n"
-         "skill = 2;\n"
-         "ratio = 0.5;\n"
-         "files\n"
-         "{\n"
-         "    wad = \"WAD files\";\n"
-         "}\n",
+         "// a comment\nname = \"C:\\\\games\";   /* another */\nskill = 2;\nratio = 0.5;\n"
+         "files\n{\n    wad = \"WAD files\";\n}\n",
          "name=\"C:\\\\games\";skill=2;ratio=0.5;files{wad=\"WAD files\";}"},
 
         {"blanks in a key vanish", " a\r b\t\nc = 1;", "abc=1;"},
-        {"a lone slash vanishes", "a/b=1;/", "ab=1;"},
-        {"quotes in a key", "\"a\\\"=1;", "\"a\\\"=1;"},
-        {"any byte in a key", "\0\xFF\x01=1;"s, "\0\xFF\x01=1;"s},
+        {"a lone slash vanishes", "a/b/ /c=1;/", "abc=1;"},
+        {"any byte in a key", "\"\0\xFF\\\x01=1;"s, "\"\0\xFF\\\x01=1;"s},
         {"repeated keys", "a=1;b{c=1;d;c=2;}a{e;}a=\"x\";", "a=\"x\";b{c=2;d=0;}"},
         {"key without end", "a=1;b", "a=1;"},
 
@@ -44,7 +37,6 @@ TEST(Reader, MakesOneTreeOfEachText) {
 
         {"comment without end", "a=1;// b=2;", "a=1;"},
         {"no line ends at CR", "/\r/ x\ra=1;\nb=2;", "b=2;"},
-        {"blank between slashes", "/ / a=1;", "a=1;"},
         {"block", "a/* b=1; \n */c=2;", "ac=2;"},
         {"star ends itself", "/*/ x */;", "x*=0;"},
         {"tabs in the ends of a block", "/\t* * \t/ a=1;*\t/b;", "b=0;"},
@@ -62,8 +54,6 @@ TEST(Reader, MakesOneTreeOfEachText) {
         {"letter across lines", "a=\"\\\r\tn\\\r\";\"", R"(a="\n\";";)"},
         {"CR and TAB", "a=\"x\r\n\ty\";", R"(a="x\ny";)"},
         {"text without end", "a=\"x;b=1;", ""},
-        {"code without end", "a=\"\\1", ""},
-        {"backslash without end", "a=\"\\", ""},
         {"dropped behind a text", "a=\"x\" b \\\" c;d=1;", "a=\"x\";d=1;"},
         {"text behind a text", "a=\"x\"\nb=\"y\";c;", "a=\"x\";=\"y\";c=0;"},
         {"semicolon under the empty key", "=\"a;b\"=1;", "b\"=1;"},
@@ -96,15 +86,8 @@ TEST(Reader, GoesOnFromAPositionAndSaysWhereItStopped) {
 
 TEST(Writer, LaysBothFormsOutByteForByte) {
     const std::string_view sample =
-        "type = \"Sample\";\r\n"
-        "engine = -1;\r\n"
-        "\r\n"
-        "iwads\r\n"
-        "{\r\n"
-        "\t0 = \"Sample|C:\\\\sample.wad\";\r\n"
-        "}\r\n"
-        "\r\n"
-        "lastdir = \"C:\\\\Games\";\r\n";
+        "type = \"Sample\";\r\nengine = -1;\r\n\r\niwads\r\n{\r\n"
+        "\t0 = \"Sample|C:\\\\sample.wad\";\r\n}\r\n\r\nlastdir = \"C:\\\\Games\";\r\n";
     EXPECT_EQ(Rewritten(sample, "\r\n", true), sample);
     EXPECT_EQ(
         Rewritten(sample, "\r\n", false),

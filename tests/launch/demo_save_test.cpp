@@ -2,6 +2,7 @@
 
 #include "session.h"
 #include "state/records.h"
+#include "state/settings.h"
 
 namespace {
 
@@ -57,6 +58,7 @@ TEST_F(DemoSave, BrowsingReplacesTheNameAndEscapeDiscards) {
         EXPECT_EQ(frmDemoSave.txtDemoFile.Text(), folder.Path("demos\\demo.lmp")) << "cancelled";
         driver::Click(frmDemoSave.cmdBrowse);
         EXPECT_EQ(frmDemoSave.txtDemoFile.Text(), folder.Path("other.v2.lmp"));
+        EXPECT_EQ(SettingText("lastdir"), folder.Path("demos")) << "only opening moves it";
         const platform::OpenFileName& question = memory::machine.fileQuestions.back();
         EXPECT_EQ(question.lpstrTitle, "Please enter the path and filename of the demo");
         EXPECT_EQ(question.lpstrFilter,

@@ -57,12 +57,11 @@ TEST_F(Launching, QuickStartIsRightBlankForBlank) {
 TEST_F(Launching, CompletesBareNamesAndStartsInTheFilesFolder) {
     const std::string text = folder.Write("readme.txt", "");
     const std::string game = folder.Write("port/game.exe", "");
-    const std::string absent[] = {"D:readme.txt", "docs/readme.txt"};
     const std::tuple<std::string, std::string, std::string> rows[] = {
         {"readme.txt", text, folder.Path() + "\\"},
         {game, game, folder.Path("port\\")},
-        {absent[0], absent[0], absent[0]},
-        {absent[1], absent[1], absent[1]},
+        {"D:absent.txt", "D:absent.txt", "D:absent.txt"},
+        {"docs/absent.txt", "docs/absent.txt", "docs/absent.txt"},
         {"https://example.org/a", "https://example.org/a", ""},
     };
     for (auto [file, started, directory] : rows) {

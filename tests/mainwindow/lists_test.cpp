@@ -1,14 +1,21 @@
+// The lists of files and maps.
 #include "mainwindow/main_window.h"
 #include "session.h"
 #include "state/records.h"
+#include "state/settings.h"
+#include "text/ascii.h"
 
 namespace {
 
 using Texts = std::vector<std::string>;
 
-struct FileListCase : Session {
-    FileListCase() {
+struct Lists : Session {
+    Lists() {
         DefineEngine("Alpha");
+        folder.Write("many.wad", MapWad("IWAD", NumberedMaps(36)));
+        folder.Write("few.wad", MapWad("IWAD", {"MAP02", "MAP01", "map03"}));
+        WriteSettings("iwad = 0; map = 30; iwads { a = \"|" + Stored("many.wad") + "\"; b = \"|" +
+                      Stored("few.wad") + "\"; c = \"|no such file\"; }");
         EXPECT_TRUE(Start());
     }
     /// Adds what the file dialog gives, once for each.
@@ -17,6 +24,13 @@ struct FileListCase : Session {
             memory::machine.files = {choice};
             driver::Click(frmMain.cmdAdd);
         }
+    }
+    /// Makes a patch WAD the selected file and asks for its first map.
+    std::string UseFirstMapOf(const std::string& bytes) {
+        driver::Click(frmMain.cmdClear);
+        Add({folder.Write("Patch.wad", bytes)});
+        driver::DoubleClick(frmMain.lstFiles, 0);
+        return memory::TakeMessage();
     }
     /// Which of the four controls that follow the selection are enabled.
     static std::string Enabled() {
@@ -27,7 +41,7 @@ struct FileListCase : Session {
     }
 };
 
-TEST_F(FileListCase, AddsOneOrSeveralOfAnyNameAndKeepsThem) {
+TEST_F(Lists, AddFilesOneOrSeveralOfAnyNameAndKeepThem) {
     Add({"", "D:\\q\"uote;{}.wad", std::string("D:\\w\0b.wad\0a  a.deh\0c", 21),
          std::string("D:\\\0\xff\xfe\0|", 8), "D:\\new\r\nline\ttab", std::string(257, 'x'),
          "D:\\q\"uote;{}.wad"});
@@ -40,7 +54,7 @@ TEST_F(FileListCase, AddsOneOrSeveralOfAnyNameAndKeepsThem) {
     EXPECT_EQ(driver::ShownItems(frmMain.lstFiles), expected);
 }
 
-TEST_F(FileListCase, FiltersByTheSelectedEngine) {
+TEST_F(Lists, FilterByTheSelectedEngine) {
     EXPECT_EQ(FileFilter(-1), "WAD files (*.wad)|*.wad|All files (*.*)|*.*");
     EXPECT_EQ(FileFilter(0),
               "All supported files|*.wad;*.deh;|WAD files (*.wad)|*.wad|Patches (*.deh)|*.deh|"
@@ -49,7 +63,7 @@ TEST_F(FileListCase, FiltersByTheSelectedEngine) {
     EXPECT_EQ(FileFilter(0), "All files (*.*)|*.*");
 }
 
-TEST_F(FileListCase, RemovingSelectsTheRowBefore) {
+TEST_F(Lists, RemovingAFileSelectsTheRowBefore) {
     Add({"a", "b", "c"});
     driver::Click(frmMain.cmdRemove);
     EXPECT_EQ(FileList.Count(), 2) << "no selection, nothing happens";
@@ -63,7 +77,7 @@ TEST_F(FileListCase, RemovingSelectsTheRowBefore) {
     }
 }
 
-TEST_F(FileListCase, FourControlsFollowTheSelection) {
+TEST_F(Lists, FourControlsFollowTheSelection) {
     folder.Write("A.TXT", "about it");
     const std::pair<std::string, const char*> rows[] = {
         {folder.Path("A.V2.WAD"), "map item text item"},
@@ -80,7 +94,7 @@ TEST_F(FileListCase, FourControlsFollowTheSelection) {
     }
 }
 
-TEST_F(FileListCase, TheMenuNeedsASelectedRow) {
+TEST_F(Lists, TheMenuOfFilesNeedsASelectedRow) {
     Add({folder.Path("a.wad"), "D:\\b.deh"});
     folder.Write("A.TXT", "about it");
     driver::RightClick(frmMain.lstFiles, 0);
@@ -97,6 +111,35 @@ TEST_F(FileListCase, TheMenuNeedsASelectedRow) {
     memory::machine.accepts = false;
     driver::Click(frmMain.cmdShowTextFile);
     EXPECT_EQ(memory::machine.started.size(), 2U) << "a file that went since fails silently";
+}
+
+TEST_F(Lists, TheRowOfTheMapSurvivesAChangeOfGame) {
+    EXPECT_EQ(frmMain.cmbMaps.Text(), "MAP31");
+    driver::Choose(frmMain.cmbIWADs, 1);
+    EXPECT_EQ(driver::ShownItems(frmMain.cmbMaps), (Texts{"MAP02", "MAP01", "map03"}));
+    EXPECT_EQ(SettingNumber("map"), 0);
+    driver::Choose(frmMain.cmbMaps, 2);
+    driver::Choose(frmMain.cmbIWADs, 0);
+    EXPECT_EQ(frmMain.cmbMaps.Text(), "MAP03") << "the row, not the name";
+    driver::Type(frmMain.cmbMaps, "TITLEMAP");
+    EXPECT_EQ(SettingNumber("map"), 2) << "only a row is stored";
+    driver::Choose(frmMain.cmbIWADs, 0);
+    EXPECT_EQ(frmMain.cmbMaps.Text(), "MAP01") << "a typed text does not survive";
+    driver::Choose(frmMain.cmbIWADs, 2);
+    EXPECT_EQ(frmMain.cmbMaps.ListCount(), 0);
+}
+
+TEST_F(Lists, UseFirstMapMovesToTheLowest) {
+    EXPECT_EQ(UseFirstMapOf(MapWad("PWAD", {"MAP07", "MAP03"})), "");
+    EXPECT_EQ(SettingNumber("map"), 2);
+    const std::string path = LowerCase(folder.Path("patch.wad"));
+    EXPECT_EQ(UseFirstMapOf(MapWad("PWAD", {"MAP01", "E1M1"})),
+              "Warning: The map E1M1 does not appear in the game WAD.\r\nMake sure you have "
+              "selected the game WAD matching the one needed for " +
+                  path + ".");
+    EXPECT_EQ(UseFirstMapOf("no WAD at all"), "There are no map lumps in " + path + ".");
+    EXPECT_EQ(frmMain.cmbMaps.Text(), "E1M1") << "of the one before";
+    EXPECT_EQ(frmMain.cmbMaps.ListIndex(), -1);
 }
 
 }  // namespace
