@@ -1,7 +1,6 @@
 // Any text gives a tree; its written form gives that tree again.
 #include <algorithm>
 
-#include "config/number.h"
 #include "config/reader.h"
 #include "config/writer.h"
 #include "require.h"
@@ -15,7 +14,7 @@ ConfigMapRef Read(std::string_view text) {
     return map;
 }
 
-/// Makes of each number what it comes back as: one written with a point keeps what 32 bits carry.
+/// Makes of each number what it comes back as: one with a point keeps what 32 bits carry.
 /// Gives whether all of the tree comes back, as all does but a text with a ";" under the empty key.
 bool Settle(ConfigMap& map) {
     bool survives = true;
@@ -27,9 +26,7 @@ bool Settle(ConfigMap& map) {
         } else if (value.IsText()) {
             survives = survives && !(key.empty() && text.find(';') != std::string::npos);
         } else {
-            const double number = NumberValue(text);
-            const bool single = text.find('.') != std::string::npos;
-            value = single ? ConfigValue(SingleNumber(number)) : ConfigValue(number);
+            value = Read("a=" + text + ";")->Item("a");
         }
     }
     return survives;
@@ -46,7 +43,7 @@ extern "C" int LLVMFuzzerTestOneInput(const char* bytes, std::size_t size) {
     const ConfigMapRef tree = Read(text);
     const std::string first = written(tree);
     std::string stripped = text;
-    std::erase_if(stripped, [](char character) { return character == '\r' || character == '\t'; });
+    std::erase_if(stripped, [](char byte) { return byte == '\r' || byte == '\t'; });
     Require(written(Read(stripped)) == first, "CR and TAB count as not there");
     Require(written(CopyBlock(*tree)) == first, "a copy is equal");
     if (Settle(*tree)) {

@@ -19,9 +19,7 @@ std::vector<std::string> LumpNames(const clsWad& wad) {
 
 void Walk(const clsWad& wad) {
     Require(LowestMap(wad).empty() || !MapNames(wad).empty(), "the lowest map is one of several");
-    const std::int32_t beyond =
-        std::min(wad.Directory().StoredCount() + 2, wad.Directory().Count());
-    for (std::int32_t lump = 0; lump < beyond; ++lump) {
+    for (std::int32_t lump = 0; lump < wad.Directory().StoredCount() + 2; ++lump) {
         const std::string name = UpperCase(wad.LumpName(lump));
         const std::int32_t found = wad.NumForName(name);
         Require(found == -1 || wad.LumpName(found) == name, "a found name is equal");

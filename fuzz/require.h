@@ -1,12 +1,10 @@
 // What holds for every input. An input for which it does not hold ends the program.
 #pragma once
 
-#include <cstdio>
-#include <cstdlib>
+#include <stdexcept>
 
 inline void Require(bool holds, const char* what) {
     if (!holds) {
-        std::fprintf(stderr, "does not hold: %s\n", what);
-        std::abort();
+        throw std::logic_error(what);
     }
 }
