@@ -83,10 +83,12 @@ test-windows:
 	@tests/windows/under-wine scripts/run-tests build/win64
 
 bench-windows:
-	@$(INSTALL) build windows wine display
+	@$(INSTALL) build desktop bench windows wine display
+	cmake --preset bench
+	cmake --build build/bench --target measure_startup
 	cmake --preset win64 -DZORVANE_BENCH=ON
-	cmake --build build/win64
-	@tests/windows/under-wine build/win64/bench/startup-windows/run
+	cmake --build build/win64 --target zorvane bare_window
+	@tests/windows/under-wine bench/startup-windows/run build/bench/bench/measure_startup build/win64
 
 package:
 	@$(INSTALL) build desktop package
