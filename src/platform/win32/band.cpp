@@ -32,7 +32,7 @@ void Band::Lay(const toolkit::Window& window, const Metrics& metrics) {
     for (const toolkit::ControlRow& row : window.Table().rows) {
         if (row.picture == BandPicture) {
             place_ = metrics.Pixels(row.place);
-            Draw();
+            brush_.reset();
         }
     }
 }
@@ -54,7 +54,10 @@ void Band::Draw() {
     brush_.reset(::CreatePatternBrush(bitmap_.get()));
 }
 
-HBRUSH Band::Beneath(HWND control, HDC context) const {
+HBRUSH Band::Beneath(HWND control, HDC context) {
+    if (!brush_) {
+        Draw();
+    }
     POINT origin = {place_.left, place_.top};
     ::MapWindowPoints(::GetParent(control), control, &origin, 1);
     ::SetBrushOrgEx(context, origin.x, origin.y, nullptr);

@@ -5,11 +5,6 @@
 namespace platform {
 namespace {
 
-int FirstScreensDensity() {
-    const WindowContext screen(nullptr);
-    return ::GetDeviceCaps(screen.Get(), LOGPIXELSX);
-}
-
 OwnedFont MakeFont(LOGFONTW description, int percent, bool bold, bool underlined) {
     constexpr int Whole = 100;
     description.lfHeight = ::MulDiv(description.lfHeight, percent, Whole);
@@ -21,6 +16,11 @@ OwnedFont MakeFont(LOGFONTW description, int percent, bool bold, bool underlined
 }
 
 }  // namespace
+
+int FirstScreensDensity() {
+    const WindowContext screen(nullptr);
+    return ::GetDeviceCaps(screen.Get(), LOGPIXELSX);
+}
 
 int DensityOf(HWND window) {
     // Only Windows 10 and later has it.

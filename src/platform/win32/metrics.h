@@ -12,6 +12,8 @@ namespace platform {
 /// The faces of the desktop's message font.
 enum class Face { Body, Bold, Title, Small, Link };
 
+/// Dots per inch of the first screen.
+int FirstScreensDensity();
 /// Dots per inch of the screen that a window is on; the first screen's on an old Windows.
 int DensityOf(HWND window);
 
@@ -20,6 +22,7 @@ class Metrics {
   public:
     explicit Metrics(int density);
 
+    int Density() const { return density_; }
     HFONT Font(Face face) const { return fonts_[static_cast<std::size_t>(face)].get(); }
     /// Dialog units as pixels.
     RECT Pixels(const toolkit::Place& place) const;

@@ -8,13 +8,21 @@
 namespace platform {
 namespace {
 
-HWND Create(const toolkit::Window& window) {
-    const DWORD style = window.Table().dialog ? WS_POPUP | WS_CAPTION | WS_SYSMENU
-                                              : WS_CAPTION | WS_SYSMENU | WS_MINIMIZEBOX;
+RECT Inside(const toolkit::Window& window, const Metrics& metrics) {
+    return metrics.Pixels({0, 0, window.Table().width, window.Table().height});
+}
+
+HWND Create(const toolkit::Window& window, const Metrics& metrics) {
+    const DWORD kind = window.Table().dialog ? WS_POPUP | WS_CAPTION | WS_SYSMENU
+                                             : WS_CAPTION | WS_SYSMENU | WS_MINIMIZEBOX;
+    const DWORD style = kind | WS_CLIPCHILDREN;
     const DWORD extended = WS_EX_CONTROLPARENT | (window.Table().dialog ? WS_EX_DLGMODALFRAME : 0);
-    return ::CreateWindowExW(extended, WindowClassName, Wide(window.Caption()).c_str(),
-                             style | WS_CLIPCHILDREN, CW_USEDEFAULT, CW_USEDEFAULT, 0, 0, nullptr,
-                             nullptr, ::GetModuleHandleW(nullptr), nullptr);
+    RECT frame = Inside(window, metrics);
+    ::AdjustWindowRectEx(&frame, style, FALSE, extended);
+    return ::CreateWindowExW(extended, WindowClassName, Wide(window.Caption()).c_str(), style,
+                             CW_USEDEFAULT, CW_USEDEFAULT, frame.right - frame.left,
+                             frame.bottom - frame.top, nullptr, nullptr,
+                             ::GetModuleHandleW(nullptr), nullptr);
 }
 
 }  // namespace
@@ -32,7 +40,10 @@ void NativeWindow::RegisterWindowClass() {
 }
 
 NativeWindow::NativeWindow(toolkit::Window& window)
-    : window_(window), handle_(Create(window)), metrics_(DensityOf(handle_)) {
+    : window_(window), metrics_(FirstScreensDensity()), handle_(Create(window, metrics_)) {
+    if (const int density = DensityOf(handle_); density != metrics_.Density()) {
+        metrics_ = Metrics(density);
+    }
     Size();
     MakeControls();
     ::SetWindowLongPtrW(handle_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
@@ -52,15 +63,16 @@ void NativeWindow::MakeControls() {
 }
 
 void NativeWindow::Size() {
-    const toolkit::WindowTable& table = window_.Table();
-    const RECT inside = metrics_.Pixels({0, 0, table.width, table.height});
-    // The frame takes what a first try leaves too little for the inside.
-    constexpr UINT Flags = SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE;
-    ::SetWindowPos(handle_, nullptr, 0, 0, inside.right, inside.bottom, Flags);
+    const RECT wanted = Inside(window_, metrics_);
     RECT got = {};
     ::GetClientRect(handle_, &got);
-    ::SetWindowPos(handle_, nullptr, 0, 0, 2 * inside.right - got.right,
-                   2 * inside.bottom - got.bottom, Flags);
+    if (got.right != wanted.right || got.bottom != wanted.bottom) {
+        RECT frame = {};
+        ::GetWindowRect(handle_, &frame);
+        ::SetWindowPos(handle_, nullptr, 0, 0, frame.right - frame.left + wanted.right - got.right,
+                       frame.bottom - frame.top + wanted.bottom - got.bottom,
+                       SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+    }
     band_.Lay(window_, metrics_);
 }
 

@@ -70,8 +70,8 @@ class NativeWindow {
     NativeControl* WithFlag(toolkit::Flag flag) const;
 
     toolkit::Window& window_;
-    HWND handle_;
     Metrics metrics_;
+    HWND handle_;
     ToolTips tips_{handle_};
     Band band_;
     std::vector<std::unique_ptr<NativeControl>> controls_;
