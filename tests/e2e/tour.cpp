@@ -204,6 +204,11 @@ void Play(const std::string& part) {
         Visit(frmMain.cmdSettings, frmEngineSettings.cmdAccept, part + "-options", Portrait);
         Visit(frmMain.cmdSetup, frmSetup.cmdOK, part + "-setup", Portrait);
         Visit(frmMain.cmdAbout, frmCredits.cmdOK, part + "-about", Portrait);
+        driver::InNextModal([&] {
+            Portrait(part + "-save-demo");
+            frmDemoSave.UserCloses();
+        });
+        frmDemoSave.ShowModal();
     }
     driver::Click(frmMain.cmdExit);
 }
