@@ -38,7 +38,6 @@ TEST(Number, IsWrittenInItsShortestForm) {
         {"-0.1", {-0.1F, -0.1}},
         {"0.1234568", {0.1234567891F}},
         {"0.333333333333333", {1.0 / 3}},
-        {"999999999999999", {999999999999999.0}},
         {"1234567", {1234567.0F, 1234567}},
         {"1E+07", {1e7F}},
         {"-1.5E-07", {-1.5e-7}},
@@ -54,7 +53,6 @@ TEST(Number, IsWrittenInItsShortestForm) {
 TEST(Number, ComesOutOfEveryKindOfValue) {
     const std::tuple<ConfigValue, double, std::int32_t> rows[] = {
         {std::make_shared<ConfigMap>(), 0, 0},
-        {ConfigMapRef(), 0, 0},
         {true, 1, 1},
         {" 1 2.5x", 12.5, 12},
         {13.5F, 13.5, 14},

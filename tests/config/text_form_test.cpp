@@ -93,9 +93,7 @@ TEST(Writer, LaysBothFormsOutByteForByte) {
         Rewritten(sample, "\r\n", false),
         "type=\"Sample\";\r\nengine=-1;\r\niwads\r\n{\r\n0=\"Sample|C:\\\\sample.wad\";\r\n}\r\n"
         "lastdir=\"C:\\\\Games\";\r\n");
-}
 
-TEST(Writer, IndentsStructuresInStructures) {
     EXPECT_EQ(Rewritten("a{b{c=1;}d{}}", "\n", true),
               "\na\n{\n\t\n\tb\n\t{\n\t\tc = 1;\n\t}\n\t\n\t\n\td\n\t{\n\t}\n\t\n}\n\n");
     ConfigMap map;

@@ -52,7 +52,6 @@ TEST_F(Startup, ListsEnginesByNameAndTheFirstOfTwoEqualsCounts) {
 TEST_F(Startup, QuotedPathsOfTheCommandLineReplaceTheFileList) {
     DefineEngine("One");
     const std::pair<const char*, std::vector<std::string>> rows[] = {
-        {"", {"C:\\stored.wad"}},
         {"\"C:\\a b.wad\" skipped \"\"\"C:\\c.wad\" \"dropped", {"C:\\a b.wad", "", "C:\\c.wad"}},
         {"C:\\unquoted.wad", {}},
     };

@@ -1,5 +1,4 @@
-// The free game WADs: their maps as another tool lists them, written anew lump by lump, and played
-// from the new file.
+// The free game WADs: as another tool lists them, written anew lump by lump, and played like that.
 #include <gtest/gtest.h>
 
 #include <cstdlib>

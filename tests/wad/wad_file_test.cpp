@@ -14,13 +14,13 @@ namespace {
 
 using Names = std::vector<std::string>;
 
-struct WadReading : testing::Test {
-    void Open(std::string_view bytes) { wad.OpenWad(folder.Write("test.wad", bytes)); }
+struct WadFile : testing::Test {
+    void Open(std::string_view bytes) { wad.OpenWad(folder.Write("a.wad", bytes)); }
     TempFolder folder;
     clsWad wad;
 };
 
-TEST_F(WadReading, HeadersAreTakenOrRefused) {
+TEST_F(WadFile, HeadersAreTakenOrRefused) {
     const std::string none = "-1";
     const std::tuple<const char*, std::string, std::string> rows[] = {
         {"tag in lower case", Header("iwad", 1, 12), none},
@@ -43,7 +43,7 @@ TEST_F(WadReading, HeadersAreTakenOrRefused) {
     }
 }
 
-TEST_F(WadReading, NamesAreCleaned) {
+TEST_F(WadFile, NamesAreCleaned) {
     const std::pair<std::string, std::string> rows[] = {
         {"MAP01", "MAP01"},         {"EIGHTCHR", "EIGHTCHR"}, {"", ""},
         {"AB\0CD"s, "AB CD"},       {" LEFT", "LEFT"},        {"\0\0A B \0"s, "A B"},
@@ -60,7 +60,7 @@ TEST_F(WadReading, NamesAreCleaned) {
     }
 }
 
-TEST_F(WadReading, ACutDirectoryKeepsItsCount) {
+TEST_F(WadFile, ACutDirectoryKeepsItsCount) {
     const std::string whole =
         Header("PWAD", 4, 12) + Entry(1, 5, "FIRST") + Entry(INT_MAX, 3, "SECOND");
     Open(whole.substr(0, whole.size() - 11));  // one byte of the second entry's size is left
@@ -72,7 +72,7 @@ TEST_F(WadReading, ACutDirectoryKeepsItsCount) {
     EXPECT_EQ(wad.NumForName(""), 1);
 }
 
-TEST_F(WadReading, LumpsMayLieAnywhere) {
+TEST_F(WadFile, LumpsMayLieAnywhere) {
     Open(Header("PWAD", 6, 22) + "0123456789" + Entry(12, 10, "WHOLE") + Entry(14, 3, "INSIDE") +
          Entry(20, 0, "EMPTY") + Entry(130 - 12, 20, "CUT") + Entry(-3, 4, "BEFORE") +
          Entry(12, -1, "NEGATIVE") + "behind");
@@ -88,7 +88,7 @@ TEST_F(WadReading, LumpsMayLieAnywhere) {
     EXPECT_GE(wad.SeekLump(1), 0);
 }
 
-TEST_F(WadReading, AnotherFileReplacesTheOpenOneUnlessItIsAbsent) {
+TEST_F(WadFile, AnotherFileReplacesTheOpenOneUnlessItIsAbsent) {
     Open(WadOf({"KEPT"}));
     for (const std::string& name : {folder.Path("absent.wad"), folder.Path(), wad.WadFileName()}) {
         wad.OpenWad(name);
@@ -110,7 +110,7 @@ Names Lumps(const std::map<std::size_t, std::string>& maps) {
     return names;
 }
 
-TEST_F(WadReading, MapsAreFoundByTheLumpBehindThem) {
+TEST_F(WadFile, MapsAreFoundByTheLumpBehindThem) {
     const std::tuple<const char*, Names, Names, const char*> rows[] = {
         {"lower case things", {"MAP01", "things"}, {}, ""},
         {"nothing before it", {"THINGS", "MAP01"}, {}, ""},
@@ -118,8 +118,7 @@ TEST_F(WadReading, MapsAreFoundByTheLumpBehindThem) {
          Lumps({{0, "MAP05"}, {10, "MAP01"}, {20, "MAP07"}, {30, "MAP02"}}),
          {"MAP05", "MAP07"},
          "MAP02"},
-        {"by codes, not numbers", Lumps({{0, "M2"}, {11, "M10"}}), {"M2", "M10"}, "M10"},
-        {"high codes", Lumps({{0, "\xC4"}, {11, "e1"}}), {"\xC4", "e1"}, "e1"},
+        {"by codes", Lumps({{0, "\xC4"}, {11, "M2"}, {22, "M10"}}), {"\xC4", "M2", "M10"}, "M10"},
         {"highest codes", {std::string(8, '\xFF'), "THINGS"}, {std::string(8, '\xFF')}, ""},
     };
     for (const auto& [name, lumps, maps, lowest] : rows) {
@@ -127,6 +126,66 @@ TEST_F(WadReading, MapsAreFoundByTheLumpBehindThem) {
         Open(WadOf(lumps));
         EXPECT_EQ(MapNames(wad), maps);
         EXPECT_EQ(LowestMap(wad), lowest);
+    }
+}
+
+TEST_F(WadFile, IsLaidOutByteForByteOverAnotherOne) {
+    const std::string rest(28, '#');
+    std::string type = "pwad";
+    ASSERT_TRUE(wad.CreateWad(folder.Write("a.wad", "An old one: " + rest), type));
+    EXPECT_EQ(type, "PWAD");
+    EXPECT_EQ(folder.Read("a.wad"), Header("PWAD", -1, 12) + rest);
+    ASSERT_TRUE(wad.WriteDirectory());
+    EXPECT_EQ(folder.Read("a.wad"), Header("PWAD", 0, 12) + rest);
+    EXPECT_EQ(wad.WastedSpace(), 28);
+
+    ASSERT_TRUE(wad.AddLump("tenletters", "abc"));
+    ASSERT_TRUE(wad.AddLump(" in b ", ""));
+    ASSERT_TRUE(wad.AddLump("", "\0\xFF"s));
+    EXPECT_EQ(wad.LumpName(0), "TENLETTE");
+    wad.WadType(2);
+    ASSERT_TRUE(wad.WriteDirectory());
+    const std::string once = folder.Read("a.wad");
+    EXPECT_EQ(once, Header("PWAD", 3, 17) + "abc\0\xFF"s + Entry(12, 3, "TENLETTE") +
+                        Entry(15, 0, "IN B") + Entry(15, 2, ""));
+    wad.WadType(0);
+    ASSERT_TRUE(wad.WriteDirectory());
+    EXPECT_EQ(folder.Read("a.wad"), "IWAD" + once.substr(4));
+    EXPECT_EQ(wad.WastedSpace(), 0);
+}
+
+TEST_F(WadFile, RefusesWithoutAChange) {
+    EXPECT_FALSE(wad.AddLump("NOWHERE", "x"));
+    EXPECT_FALSE(wad.WriteDirectory());
+    Open(WadOf({"KEPT"}));
+    std::string type = "PWADS";
+    EXPECT_FALSE(wad.CreateWad(folder.Path("other.wad"), type));
+    EXPECT_EQ(wad.LumpName(0), "KEPT");
+    EXPECT_EQ(folder.Count(), 1);
+    type = "PWAD";
+    EXPECT_FALSE(wad.CreateWad(folder.Path("no folder\\x.wad"), type));
+    EXPECT_EQ(wad.WadFileName() + wad.WadLumps(), "-1");
+    Open("PWAD");  // a directory inside the header
+    EXPECT_FALSE(wad.AddLump("X", "x"));
+}
+
+TEST_F(WadFile, TakesLumpsOverItsDirectory) {
+    const std::tuple<const char*, std::string, std::string> rows[] = {
+        {"one lump", Header("PWAD", 1, 14) + "xy" + Entry(12, 2, "OLD") + "tail",
+         Header("PWAD", 2, 16) + "xyzz" + Entry(12, 2, "OLD") + Entry(14, 2, "NEW")},
+        {"unfinished", Header("PWAD", -1, 12) + "rest",
+         Header("PWAD", 1, 14) + "zz" + Entry(12, 2, "NEW")},
+        {"cut off entries", Header("PWAD", 3, 12) + Entry(12, 0, "OLD"),
+         Header("PWAD", 4, 14) + "zz" + Entry(12, 0, "OLD") + Entry(0, 0, "") + Entry(0, 0, "") +
+             Entry(12, 2, "NEW")},
+    };
+    for (const auto& [name, before, after] : rows) {
+        SCOPED_TRACE(name);
+        Open(before);
+        ASSERT_TRUE(wad.AddLump("new", "zz"));
+        EXPECT_GE(wad.NumForName("new"), 0);
+        ASSERT_TRUE(wad.WriteDirectory());
+        EXPECT_EQ(folder.Read("a.wad"), after);
     }
 }
 
