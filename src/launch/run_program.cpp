@@ -19,7 +19,7 @@ int RunProgram(std::string& FileName, const std::string& Parameters, int ShowCom
         FileName = platform::ProgramDirectory() + "\\" + FileName;
     }
     platform::ShellExecuteInfo info;
-    info.fMask = platform::SEE_MASK_NOCLOSEPROCESS_BIT;
+    info.fMask = platform::SeeMaskNoCloseProcess;
     info.lpFile = FileName;
     info.lpParameters = Parameters;
     info.lpDirectory = FolderOfFile(FileName);

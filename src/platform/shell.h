@@ -33,7 +33,7 @@ class ProcessHandle {
 /// What ShellExecuteExA takes and gives. Members that Windows has and this system leaves at 0 are
 /// not here.
 struct ShellExecuteInfo {
-    std::uint32_t fMask = 0;   // SEE_MASK_NOCLOSEPROCESS asks for hProcess
+    std::uint32_t fMask = 0;   // SeeMaskNoCloseProcess asks for hProcess
     std::string lpFile;        // program, document or URL
     std::string lpParameters;  // one text; blanks part it, double quotes group, nothing escapes
     std::string lpDirectory;   // working directory
@@ -41,7 +41,7 @@ struct ShellExecuteInfo {
     ProcessHandle hProcess;    // filled when a process was started
 };
 
-inline constexpr std::uint32_t SEE_MASK_NOCLOSEPROCESS_BIT = 64;
+inline constexpr std::uint32_t SeeMaskNoCloseProcess = 64;
 
 /// Opens lpFile by its default verb: a program starts with the parameters in the directory, a
 /// document or URL goes to the program that the desktop has for it. Gives whether that was

@@ -37,7 +37,7 @@ class Shell : public testing::Test {
                const std::string& directory = "") {
         const bool isName = name.find(':') == std::string_view::npos;
         const std::string file = isName ? folder_.Path(name) : std::string(name);
-        info_ = {platform::SEE_MASK_NOCLOSEPROCESS_BIT, file, parameters, directory, 0, {}};
+        info_ = {platform::SeeMaskNoCloseProcess, file, parameters, directory, 0, {}};
         return platform::ShellExecuteExA(info_);
     }
 

@@ -46,7 +46,7 @@ TEST(WindowsFiles, KeepToTheirAttributes) {
 
 TEST(WindowsShell, StartsAProgramInItsFolderAndSeesItsEnd) {
     const TempFolder folder;
-    platform::ShellExecuteInfo info = {platform::SEE_MASK_NOCLOSEPROCESS_BIT,
+    platform::ShellExecuteInfo info = {platform::SeeMaskNoCloseProcess,
                                        "C:\\windows\\system32\\cmd.exe",
                                        "/c ping -n 2 127.0.0.1 > NUL & cd > \"here it is.txt\"",
                                        folder.Path() + "\\",

@@ -82,7 +82,7 @@ bool ShellExecuteExA(ShellExecuteInfo& info) {
         // What the system cannot run, for all its rights, is a document (files on a Windows disk
         // all have the right to run).
         if (process.error != ENOEXEC) {
-            if ((info.fMask & SEE_MASK_NOCLOSEPROCESS_BIT) != 0) {
+            if ((info.fMask & SeeMaskNoCloseProcess) != 0) {
                 info.hProcess = std::move(process.handle);
             }
             return process.error == 0;
