@@ -1,10 +1,11 @@
-// What the contract of files promises on every system.
+// What the contracts of files and facts promise on every system.
 #include "platform/files.h"
 
 #include <gtest/gtest.h>
 
 #include <array>
 
+#include "platform/facts.h"
 #include "support/temp_folder.h"
 
 using platform::File;
@@ -108,6 +109,16 @@ TEST(WholeFiles, AreCopiedAndRemoved) {
     EXPECT_TRUE(platform::RemoveFile(folder.Path("Temp.lmp")));
     EXPECT_FALSE(platform::RemoveFile(from));
     EXPECT_EQ(folder.Count(), 1);
+}
+
+TEST(Facts, AreTheProgramsOwn) {
+    const std::string folder = platform::ProgramDirectory();
+    EXPECT_FALSE(folder.ends_with('\\'));
+    EXPECT_FALSE(platform::ListFiles(folder, "test_platform*").empty()) << folder;
+    const auto [major, minor, revision] = platform::ProgramVersion();
+    EXPECT_EQ(std::to_string(major) + '.' + std::to_string(minor) + '.' + std::to_string(revision),
+              PROJECT_VERSION_TEXT);
+    EXPECT_EXIT(platform::EndProcess(), testing::ExitedWithCode(0), "");
 }
 
 }  // namespace

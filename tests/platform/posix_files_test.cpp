@@ -1,4 +1,4 @@
-// What only this system's files can go wrong with.
+// What only this system's files, paths and arguments can go wrong with.
 #include <fcntl.h>
 #include <gtest/gtest.h>
 #include <sys/resource.h>
@@ -9,6 +9,8 @@
 
 #include "platform/facts.h"
 #include "platform/files.h"
+#include "platform/posix/arguments.h"
+#include "platform/posix/paths.h"
 #include "support/temp_folder.h"
 
 using platform::File;
@@ -16,6 +18,7 @@ using platform::File;
 namespace {
 
 namespace fs = std::filesystem;
+using Strings = std::vector<std::string>;
 
 TEST(PosixFiles, PipesDevicesAndHiddenFilesAreNotOrdinary) {
     const TempFolder folder;
@@ -34,8 +37,7 @@ TEST(PosixFiles, PipesDevicesAndHiddenFilesAreNotOrdinary) {
         EXPECT_FALSE(File::Open("/dev/null", access).IsOpen());
     }
     EXPECT_FALSE(platform::ReplaceWholeFile(folder.Path("pipe.wad"), "x"));
-    EXPECT_EQ(platform::ListFiles(folder.Path(), "*.wad"),
-              (std::vector<std::string>{"a.wad", "link.wad"}));
+    EXPECT_EQ(platform::ListFiles(folder.Path(), "*.wad"), (Strings{"a.wad", "link.wad"}));
     EXPECT_EQ(platform::LookUpFileName(folder.Path(".hidden.wad")), "");
 }
 
@@ -113,7 +115,7 @@ TEST(PosixFacts, OwnArgumentsAreFullPathsInQuotes) {
     fs::create_directory_symlink("deep/er", folder.Native("link"));
     fs::current_path(folder.Native());
     const std::string here = folder.Path();
-    const std::pair<std::vector<std::string>, std::string> rows[] = {
+    const std::pair<std::vector<const char*>, std::string> rows[] = {
         {{}, ""},
         {{"zorvane", "/a b/c.wad", "Z:\\d.wad"}, R"("Z:\a b\c.wad" "Z:\d.wad")"},
         {{"zorvane", "./x.wad"}, '"' + here + "\\x.wad\""},
@@ -121,14 +123,59 @@ TEST(PosixFacts, OwnArgumentsAreFullPathsInQuotes) {
         {{"zorvane", "C:\\e.wad", "a\"b", ""}, R"("C:\e.wad" "")"},
     };
     for (auto [arguments, text] : rows) {
-        std::vector<char*> pointers;
-        for (std::string& argument : arguments) {
-            pointers.push_back(argument.data());
-        }
-        platform::RememberArguments(static_cast<int>(pointers.size()), pointers.data());
+        platform::RememberArguments(static_cast<int>(arguments.size()),
+                                    const_cast<char**>(arguments.data()));
         EXPECT_EQ(platform::OwnCommandLine(), text);
     }
     fs::current_path(before);
+}
+
+TEST(Paths, BecomeNativeAtTheDoor) {
+    EXPECT_EQ(platform::NativePath(R"(z:\games/port\)"), "/games/port/");
+    EXPECT_EQ(platform::NativePath("Z:"), "/");
+    EXPECT_EQ(platform::NativePath("D:readme.txt"), std::nullopt);
+    EXPECT_EQ(platform::NativePath(std::string_view("/a\0b", 4)), std::nullopt);
+}
+
+TEST(Paths, AreShownNative) {
+    EXPECT_EQ(platform::NativeText("a\\b\nsee Z:\\c\\d e\\f\r\ng\\h"),
+              "a\\b\nsee /c/d e/f\r\ng\\h");
+    EXPECT_EQ(platform::NativeText(R"(-iwad "z:\a b" -file "Z:\c")"), R"(-iwad "/a b" -file "/c")");
+    EXPECT_EQ(platform::NativeText(R"(C:\a Z: Z:/ z)"), R"(C:\a Z: Z:/ z)");
+}
+
+TEST(Paths, AreFoundWhateverTheCase) {
+    const TempFolder folder;
+    const std::string root = folder.Native();
+    for (const char* name : {"Maps/b.wad", "Maps/B.WAD", "MAPS/x", "port/Game", "port/real.EXE"}) {
+        folder.Write(name, "");
+    }
+    std::filesystem::create_symlink("nowhere", folder.Native("loose"));
+    EXPECT_EQ(platform::FindPath(folder.Path("Maps/b.WAD")), root + "/Maps/B.WAD");
+    EXPECT_EQ(platform::FindPath(folder.Path("maps/b.wad")), std::nullopt) << "MAPS comes first";
+    EXPECT_EQ(platform::FindPath(folder.Path("LOOSE")), root + "/loose");
+    EXPECT_EQ(platform::FindPath(folder.Path("port/game/x")), std::nullopt);
+    EXPECT_EQ(platform::TargetPath(folder.Path("PORT/New.lmp")), root + "/port/New.lmp");
+    EXPECT_EQ(platform::FindProgram(folder.Path("port/game.EXE")), root + "/port/Game");
+    EXPECT_EQ(platform::FindProgram(folder.Path("port/real.exe")), root + "/port/real.EXE");
+    EXPECT_EQ(platform::FindProgram(folder.Path("port.exe")), std::nullopt);
+}
+
+TEST(Paths, UrlsAreTold) {
+    EXPECT_TRUE(platform::IsUrl("X+1.-:"));
+    for (const char* other : {R"(Z:\a)", "/a:b", "", "1a:", R"(a\b:c)", "plain"}) {
+        EXPECT_FALSE(platform::IsUrl(other)) << other;
+    }
+}
+
+TEST(Arguments, AreSplitAtBlanksOutsideQuotes) {
+    EXPECT_EQ(platform::SplitArguments("   "), Strings());
+    EXPECT_EQ(platform::SplitArguments(R"( -iwad  "a b.wad" "c" "" a"b c"d "open end)"),
+              (Strings{"-iwad", "a b.wad", "c", "", "ab cd", "open end"}));
+    EXPECT_EQ(platform::SplitArguments("a\\\"b c\\\\\"d a\tb 'c d'"),
+              (Strings{R"(a\b c\\d)", "a\tb", "'c", "d'"}));
+    EXPECT_EQ(platform::SplitArguments(R"("Z:\no such\a b" z:\n -xZ:\n C:\n)"),
+              (Strings{"/no such/a b", "/n", R"(-xZ:\n)", R"(C:\n)"}));
 }
 
 }  // namespace
