@@ -43,13 +43,21 @@ struct Look {
     bool checked = false;
     bool enabled = true;
     bool visible = true;
+    bool focused = false;
 };
 Look LookAt(const toolkit::Control& control);
 /// The caption on the frame of a window, nothing while the window is hidden.
 std::string ShownCaption(const toolkit::Window& window);
-/// Name of the control that has the focus, empty when none has it.
-std::string Focused(const toolkit::Window& window);
 
+/// Name of the control that has the focus, empty when none has it.
+inline std::string Focused(const toolkit::Window& window) {
+    for (const toolkit::Control* control : window.Controls()) {
+        if (LookAt(*control).focused) {
+            return std::string(control->Row().name);
+        }
+    }
+    return {};
+}
 inline void Click(toolkit::Control& control) {
     Use(Mouse::Click, control);
 }
@@ -73,12 +81,6 @@ inline std::string ShownText(const toolkit::Control& control) {
 }
 inline std::vector<std::string> ShownItems(const toolkit::Control& control) {
     return LookAt(control).items;
-}
-inline bool ShownChecked(const toolkit::Control& control) {
-    return LookAt(control).checked;
-}
-inline bool ShownEnabled(const toolkit::Control& control) {
-    return LookAt(control).enabled;
 }
 
 }  // namespace driver

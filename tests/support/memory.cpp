@@ -1,7 +1,5 @@
 #include "memory.h"
 
-#include <gtest/gtest.h>
-
 #include <algorithm>
 
 #include "platform/shell.h"
@@ -11,7 +9,7 @@ namespace memory {
 Machine machine;
 
 std::string TakeMessage() {
-    return machine.messages.empty() ? std::string() : TakeFront(machine.messages);
+    return machine.messages.empty() ? std::string() : Take(machine.messages, "");
 }
 
 void Reset() {
@@ -25,18 +23,9 @@ void Reset() {
 
 namespace {
 
-/// The next of the queued answers.
-std::string Next(std::deque<std::string>& answers, const std::string& question) {
-    if (answers.empty()) {
-        ADD_FAILURE() << "unexpected question: " << question;
-        return {};
-    }
-    return TakeFront(answers);
-}
-
 bool AnswerFileDialog(platform::OpenFileName& record) {
     machine.fileQuestions.push_back(record);
-    const std::string answer = Next(machine.files, record.lpstrTitle);
+    const std::string answer = Take(machine.files, record.lpstrTitle);
     if (answer.empty() || answer.size() > record.nMaxFile - 2) {
         return false;
     }
@@ -91,7 +80,7 @@ bool GetSaveFileNameA(OpenFileName& record) {
 
 std::string BrowseForFolderPath(const BrowseInfo& info) {
     machine.folderQuestions.push_back(info.lpszTitle);
-    return memory::Next(machine.folders, info.lpszTitle);
+    return memory::Take(machine.folders, info.lpszTitle);
 }
 
 void ShowMessage(const std::string& text, const std::string& title, MessageIcon) {
@@ -99,10 +88,9 @@ void ShowMessage(const std::string& text, const std::string& title, MessageIcon)
     machine.messages.push_back(text);
 }
 
-std::string AskForText(const std::string& prompt, const std::string& title,
-                       const std::string& preset) {
-    machine.textQuestions.push_back({prompt, title, preset});
-    return memory::Next(machine.texts, prompt);
+std::string AskForText(const std::string& prompt, const std::string&, const std::string& preset) {
+    machine.textQuestions.push_back({prompt, preset});
+    return memory::Take(machine.texts, prompt);
 }
 
 }  // namespace platform

@@ -2,6 +2,8 @@
 // do not run. The files are the real ones of the system.
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include <deque>
 #include <functional>
 #include <string>
@@ -15,7 +17,6 @@ namespace memory {
 
 struct TextQuestion {
     std::string prompt;
-    std::string title;
     std::string preset;
 };
 
@@ -32,10 +33,9 @@ struct Machine {
     std::string programDirectory;
     std::string commandLine;
     std::deque<std::string> messages;  // that were shown
-
-    std::deque<std::string> files;    // chosen in file dialogs, empty for Cancel
-    std::deque<std::string> folders;  // chosen in folder dialogs
-    std::deque<std::string> texts;    // typed into input boxes
+    std::deque<std::string> files;     // chosen in file dialogs, empty for Cancel
+    std::deque<std::string> folders;   // chosen in folder dialogs
+    std::deque<std::string> texts;     // typed into input boxes
     std::vector<platform::OpenFileName> fileQuestions;
     std::vector<std::string> folderQuestions;
     std::vector<TextQuestion> textQuestions;
@@ -54,11 +54,16 @@ struct ProcessEnded {};
 /// A fresh machine; fails the test when the old one has messages, answers or steps left over.
 void Reset();
 
-template <class Element>
-Element TakeFront(std::deque<Element>& queue) {
-    Element front = std::move(queue.front());
+/// The next of the queued answers; fails the test, and gives `otherwise`, when there is none.
+template <class Answer>
+Answer Take(std::deque<Answer>& queue, const std::string& question, Answer otherwise = {}) {
+    if (queue.empty()) {
+        ADD_FAILURE() << "unexpected: " << question;
+        return otherwise;
+    }
+    Answer answer = std::move(queue.front());
     queue.pop_front();
-    return front;
+    return answer;
 }
 
 /// The oldest message that was shown, taken out of the list; an empty text when there is none.

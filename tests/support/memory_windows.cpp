@@ -1,6 +1,4 @@
 // Windows in memory, and what a person does there.
-#include <gtest/gtest.h>
-
 #include "driver.h"
 #include "memory.h"
 #include "platform/desktop.h"
@@ -16,15 +14,6 @@ constexpr int RowHeight = 16;
 template <class Kind>
 Kind* As(const toolkit::Control& control) {
     return dynamic_cast<Kind*>(const_cast<toolkit::Control*>(&control));
-}
-
-toolkit::Button* ButtonWith(const toolkit::Window& window, toolkit::Flag flag) {
-    for (toolkit::Control* control : window.Controls()) {
-        if (control->Has(flag)) {
-            return As<toolkit::Button>(*control);
-        }
-    }
-    return nullptr;
 }
 
 /// The control behind `tab` in the tab order, or the first one.
@@ -65,11 +54,7 @@ double UnitsPerPixelY() {
 void RunModal(toolkit::Window& window) {
     toolkit::Control* opener = focused;
     focused = NextInTabOrder(window, -1);
-    if (modalSteps.empty()) {
-        ADD_FAILURE() << "unexpected window: " << window.Caption();
-    } else {
-        memory::TakeFront(modalSteps)();
-    }
+    memory::Take(modalSteps, window.Caption(), std::function<void()>([] {}))();
     if (window.Visible()) {
         ADD_FAILURE() << "still open: " << window.Caption();
         window.Hide();
@@ -89,9 +74,7 @@ std::uint32_t ItemFromPoint(const toolkit::ListBox&, int x, int y) {
 }
 
 void ShowPopupMenu(toolkit::Window&, toolkit::PopupMenu& menu) {
-    if (menuChoices.empty()) {
-        ADD_FAILURE() << "unexpected menu: " << menu.Caption();
-    } else if (const int choice = memory::TakeFront(menuChoices); choice >= 0) {
+    if (const int choice = memory::Take(menuChoices, menu.Caption(), -1); choice >= 0) {
         menu.Items().at(static_cast<std::size_t>(choice))->UserClicks();
     }
 }
@@ -152,9 +135,11 @@ void Press(toolkit::Window& window, Key key) {
         return;
     }
     const bool isEnter = key == Key::Enter;
-    toolkit::Button* button = ButtonWith(window, isEnter ? toolkit::Default : toolkit::Cancel);
-    if (isEnter && focused != nullptr && As<toolkit::Button>(*focused) != nullptr) {
-        button = As<toolkit::Button>(*focused);
+    auto* button = isEnter && focused != nullptr ? As<toolkit::Button>(*focused) : nullptr;
+    for (toolkit::Control* control : window.Controls()) {
+        if (button == nullptr && control->Has(isEnter ? toolkit::Default : toolkit::Cancel)) {
+            button = As<toolkit::Button>(*control);
+        }
     }
     if (button != nullptr) {
         button->UserClicks();
@@ -174,37 +159,34 @@ void AtNextMenu(int row) {
 }
 
 Look LookAt(const toolkit::Control& control) {
-    Look look = {
-        .text = control.Caption(), .enabled = control.Enabled(), .visible = control.Visible()};
+    Look look = {.text = control.Caption(),
+                 .enabled = control.Enabled(),
+                 .visible = control.Visible(),
+                 .focused = focused == &control};
     if (const auto* box = As<toolkit::CheckBox>(control)) {
         look.checked = box->Checked();
     } else if (const auto* field = As<toolkit::TextBox>(control)) {
         look.text = field->Text();
     } else if (const auto* view = As<toolkit::ListView>(control)) {
+        look.text.clear();
         look.index = view->SelectedRow();
         for (int row = 1; row <= view->RowCount(); ++row) {
             look.items.push_back(view->At(row).first + "|" + view->At(row).second);
         }
     } else if (const auto* list = As<toolkit::ItemControl>(control)) {
-        const auto* combo = As<toolkit::ComboBox>(control);
         look.index = list->ListIndex();
         for (int row = 0; row < list->ListCount(); ++row) {
             look.items.push_back(list->List(row));
         }
-        look.text = combo != nullptr  ? combo->Text()
-                    : look.index >= 0 ? list->List(look.index)
-                                      : std::string();
+        const auto* combo = As<toolkit::ComboBox>(control);
+        const std::string chosen = look.index >= 0 ? list->List(look.index) : std::string();
+        look.text = combo != nullptr ? combo->Text() : chosen;
     }
     return look;
 }
 
 std::string ShownCaption(const toolkit::Window& window) {
     return window.Visible() ? window.Caption() : std::string();
-}
-
-std::string Focused(const toolkit::Window& window) {
-    return focused != nullptr && &focused->Owner() == &window ? std::string(focused->Row().name)
-                                                              : std::string();
 }
 
 }  // namespace driver

@@ -166,7 +166,9 @@ Look LookAt(const toolkit::Control& control) {
     const auto* combo = As<QComboBox>(control);
     const auto* view = As<QAbstractItemView>(control);
     QString text = widget->property(combo != nullptr ? "currentText" : "text").toString();
-    Look look = {.enabled = widget->isEnabled(), .visible = widget->isVisible()};
+    Look look = {.enabled = widget->isEnabled(),
+                 .visible = widget->isVisible(),
+                 .focused = widget->window()->focusWidget() == widget};
     if (combo != nullptr) {
         look.items = ItemsOf(*combo->model());
         look.index = text == combo->itemText(combo->currentIndex()) ? combo->currentIndex() : -1;
@@ -186,11 +188,6 @@ Look LookAt(const toolkit::Control& control) {
 std::string ShownCaption(const toolkit::Window& window) {
     const NativeWindow& native = NativeOf(window);
     return native.isVisible() ? Encode(native.windowTitle()) : std::string();
-}
-
-std::string Focused(const toolkit::Window& window) {
-    const QWidget* focused = NativeOf(window).focusWidget();
-    return focused != nullptr ? Encode(focused->objectName()) : std::string();
 }
 
 }  // namespace driver

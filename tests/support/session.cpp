@@ -1,33 +1,29 @@
 #include "session.h"
 
-#include <algorithm>
+#include <ranges>
 
 #include "mainwindow/application.h"
 #include "mainwindow/main_window.h"
 #include "state/records.h"
 #include "state/startup.h"
 #include "text/ascii.h"
-#include "wad/little_endian.h"
+#include "wad/wad_bytes.h"
 
 namespace {
 
-void UnloadWindows() {
-    const auto& windows = TheApplication.windows;
-    std::for_each(windows.rbegin(), windows.rend(), [](auto* window) { window->Unload(); });
+void Forget() {
+    for (auto* window : TheApplication.windows | std::views::reverse) {
+        window->Unload();
+    }
+    ResetState();
 }
 
 }  // namespace
 
 std::string WadBytes(std::string_view tag, const std::vector<std::string>& lumps) {
-    constexpr std::int32_t HeaderSize = 12;
-    std::string bytes(tag);
-    AppendInt32(bytes, static_cast<std::int32_t>(lumps.size()));
-    AppendInt32(bytes, HeaderSize);
-    for (std::string name : lumps) {
-        name.resize(8);
-        AppendInt32(bytes, HeaderSize);
-        AppendInt32(bytes, 0);
-        bytes += name;
+    std::string bytes = Header(tag, static_cast<std::int32_t>(lumps.size()), 12);
+    for (const std::string& name : lumps) {
+        bytes += Entry(12, 0, name);
     }
     return bytes;
 }
@@ -57,8 +53,7 @@ Session::Session() {
 }
 
 Session::~Session() {
-    UnloadWindows();
-    ResetState();
+    Forget();
     memory::Reset();
 }
 
@@ -81,8 +76,7 @@ void Session::WriteSettings(std::string_view lines) {
 }
 
 bool Session::Start() {
-    UnloadWindows();
-    ResetState();
+    Forget();
     TieApplication();
     return !Ends([] { Main(); });
 }

@@ -32,16 +32,17 @@ LRESULT Ask(const toolkit::Control& control, UINT message, WPARAM wParam, void* 
     return Ask(control, message, wParam, reinterpret_cast<LPARAM>(answer));
 }
 
-void Post(HWND window, std::initializer_list<UINT> messages, POINT point) {
+void Post(HWND window, const std::vector<UINT>& messages, POINT point) {
     for (const UINT message : messages) {
         PostMessageW(window, message, 0, MAKELPARAM(point.x, point.y));
     }
     platform::DoEvents();
 }
 
-/// Sends the mouse to what Windows finds at a point of the window.
-void PostMouse(HWND window, std::initializer_list<UINT> messages, POINT point) {
-    MapWindowPoints(window, nullptr, &point, 1);
+/// Sends the mouse to what Windows finds at a point of a window or a control.
+void PostMouse(HWND place, const std::vector<UINT>& messages, POINT point) {
+    const HWND window = GetAncestor(place, GA_ROOT);
+    MapWindowPoints(place, nullptr, &point, 1);
     const HWND child = WindowFromPoint(point);
     const HWND target = IsChild(window, child) && IsWindowEnabled(child) ? child : window;
     MapWindowPoints(nullptr, target, &point, 1);
@@ -52,7 +53,7 @@ POINT MiddleLeft(const RECT& place) {
     return {place.left + 8, (place.top + place.bottom) / 2};
 }
 
-/// Where the mouse is used, as a point of the window.
+/// Where the mouse is used, as a point of the control.
 POINT PointOf(const toolkit::Control& control, int row) {
     RECT place = {LVIR_BOUNDS, 0, 0, 0};
     if (control.GetKind() == Kind::ListBox) {
@@ -62,9 +63,7 @@ POINT PointOf(const toolkit::Control& control, int row) {
     } else {
         GetClientRect(HandleOf(control), &place);
     }
-    POINT point = MiddleLeft(place);
-    MapWindowPoints(HandleOf(control), HandleOf(control.Owner()), &point, 1);
-    return point;
+    return MiddleLeft(place);
 }
 
 void CALLBACK RunModalSteps(HWND /*window*/, UINT /*message*/, UINT_PTR timer, DWORD /*time*/) {
@@ -118,18 +117,12 @@ std::string CellOf(const toolkit::Control& control, WPARAM row, int column) {
 namespace driver {
 
 void Use(Mouse gesture, toolkit::Control& control, int row) {
-    const HWND window = HandleOf(control.Owner());
-    const POINT point = PointOf(control, row);
-    if (gesture == Mouse::Move) {
-        PostMouse(window, {WM_MOUSEMOVE}, point);
-    } else if (gesture == Mouse::RightClick) {
-        PostMouse(window, {WM_RBUTTONDOWN, WM_RBUTTONUP}, point);
-    } else {
-        PostMouse(window, {WM_LBUTTONDOWN, WM_LBUTTONUP}, point);
-    }
-    if (gesture == Mouse::DoubleClick) {
-        PostMouse(window, {WM_LBUTTONDBLCLK, WM_LBUTTONUP}, point);
-    }
+    const std::vector<UINT> messages[] = {
+        {WM_MOUSEMOVE},
+        {WM_LBUTTONDOWN, WM_LBUTTONUP},
+        {WM_RBUTTONDOWN, WM_RBUTTONUP},
+        {WM_LBUTTONDOWN, WM_LBUTTONUP, WM_LBUTTONDBLCLK, WM_LBUTTONUP}};
+    PostMouse(HandleOf(control), messages[static_cast<int>(gesture)], PointOf(control, row));
 }
 
 /// The lower right corner of a window is bare.
@@ -191,7 +184,8 @@ Look LookAt(const toolkit::Control& control) {
     const HWND handle = HandleOf(control);
     Look look = {.text = TextOf(handle),
                  .enabled = IsWindowEnabled(handle) != 0,
-                 .visible = IsWindowVisible(handle) != 0};
+                 .visible = IsWindowVisible(handle) != 0,
+                 .focused = handle == GetFocus() || IsChild(handle, GetFocus()) != 0};
     const Kind kind = control.GetKind();
     if (kind == Kind::ListView) {
         for (WPARAM row = 0; row < static_cast<WPARAM>(Ask(control, LVM_GETITEMCOUNT)); ++row) {
@@ -214,17 +208,6 @@ Look LookAt(const toolkit::Control& control) {
 
 std::string ShownCaption(const toolkit::Window& window) {
     return IsWindowVisible(HandleOf(window)) ? TextOf(HandleOf(window)) : std::string();
-}
-
-std::string Focused(const toolkit::Window& window) {
-    const HWND focus = GetFocus();
-    for (const toolkit::Control* control : window.Controls()) {
-        const HWND handle = HandleOf(*control);
-        if (focus != nullptr && (handle == focus || IsChild(handle, focus))) {
-            return std::string(control->Row().name);
-        }
-    }
-    return {};
 }
 
 }  // namespace driver
