@@ -24,9 +24,10 @@ TEST(ConfigMap, KeepsItsOrderThroughEveryChange) {
 
 TEST(ConfigMap, HoldsAMillionKeysAndLetsThemGo) {
     constexpr int keys = 1'000'000;
-    std::vector<ConfigEntry> entries(200);
+    std::vector<ConfigEntry> entries;
+    entries.reserve(200);
     for (int place = 0; place < 200; ++place) {
-        entries[place] = {std::to_string(place / 2), place / 2 - 1 + place % 2};
+        entries.push_back({std::to_string(place / 2), place / 2 - 1 + place % 2});
     }
     ConfigMap map(std::move(entries));  // each key twice, the last value counts
     for (int key = 100; key < keys; ++key) {
