@@ -36,10 +36,8 @@ TEST_F(Journey, FromNothingToTheSecondRun) {
     driver::DoubleClick(frmMain.lstFiles, 0);
     driver::Choose(frmMain.cmbSkill, 4);
     driver::Type(frmMain.txtParameters, "-turbo \"1\"");
-    driver::Click(frmMain.chkNoMonsters);
     driver::Click(frmMain.chkFastMonsters);
     driver::Click(frmMain.chkRespawnMonsters);
-    driver::Click(frmMain.chkDeathmatch);
     driver::Click(frmMain.cmdLaunch);
     driver::Click(frmMain.cmdRun);
     folder.Write("ports/temp.lmp", "demo");
@@ -49,19 +47,19 @@ TEST_F(Journey, FromNothingToTheSecondRun) {
     const std::string saved = SettingsBytes();
     EXPECT_TRUE(saved.starts_with(
         "type = \"Zorvane Configuration file\";\r\nengine = 0;\r\niwad = 0;\r\nskill = 4;\r\n"
-        "map = 1;\r\nfastmonsters = 1;\r\nnomonsters = 1;\r\nrespawnmonsters = 1;\r\n"
-        "deathmatch = 1;\r\nparameters = \"-turbo \\\"1\\\"\";\r\nlastdir = \"" +
+        "map = 1;\r\nfastmonsters = 1;\r\nnomonsters = 0;\r\nrespawnmonsters = 1;\r\n"
+        "deathmatch = 0;\r\nparameters = \"-turbo \\\"1\\\"\";\r\nlastdir = \"" +
         Stored("") + "\";\r\n\r\niwads\r\n"))
         << saved;
 
     ASSERT_TRUE(Start());
-    EXPECT_TRUE(frmMain.chkDeathmatch.Checked());
+    EXPECT_TRUE(frmMain.chkRespawnMonsters.Checked());
     driver::Click(frmMain.cmdRun);
     Exit();
     EXPECT_EQ(SettingsBytes(), saved);
     const std::string game = folder.Path("Known.WAD");
     const std::string head = "-switch2 -file \"" + folder.Path("patch.wad") + "\"  -iwad \"" +
-                             game + "\" -skill 5 -nomonsters -fast -respawn -warp 1 2 ";
+                             game + "\" -skill 5 -fast -respawn -warp 1 2 ";
     const std::string record = "-record \"" + folder.Path("ports\\temp") + "\"";
     const auto& started = memory::machine.started;
     EXPECT_EQ(started.at(0).file, folder.Path("ports\\Sample Engine.exe"));
