@@ -16,7 +16,8 @@ void Reset() {
     for (const std::string& message : machine.messages) {
         ADD_FAILURE() << "unexpected message: " << message;
     }
-    EXPECT_TRUE(machine.files.empty() && machine.folders.empty() && machine.texts.empty())
+    EXPECT_TRUE(machine.files.empty() && machine.folders.empty() && machine.texts.empty() &&
+                machine.menus.empty() && machine.steps.empty())
         << "an answer was never asked for";
     machine = Machine();
 }

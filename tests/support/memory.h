@@ -32,10 +32,12 @@ struct StartedProgram {
 struct Machine {
     std::string programDirectory;
     std::string commandLine;
-    std::deque<std::string> messages;  // that were shown
-    std::deque<std::string> files;     // chosen in file dialogs, empty for Cancel
-    std::deque<std::string> folders;   // chosen in folder dialogs
-    std::deque<std::string> texts;     // typed into input boxes
+    std::deque<std::string> messages;         // that were shown
+    std::deque<std::string> files;            // chosen in file dialogs, empty for Cancel
+    std::deque<std::string> folders;          // chosen in folder dialogs
+    std::deque<std::string> texts;            // typed into input boxes
+    std::deque<int> menus;                    // chosen rows, -1 for none
+    std::deque<std::function<void()>> steps;  // taken in modal windows
     std::vector<platform::OpenFileName> fileQuestions;
     std::vector<std::string> folderQuestions;
     std::vector<TextQuestion> textQuestions;
@@ -48,8 +50,7 @@ struct Machine {
 };
 extern Machine machine;
 
-/// Thrown where the process would end.
-struct ProcessEnded {};
+struct ProcessEnded {};  // thrown where the process would end
 
 /// A fresh machine; fails the test when the old one has messages, answers or steps left over.
 void Reset();

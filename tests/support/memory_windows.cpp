@@ -3,10 +3,10 @@
 #include "memory.h"
 #include "platform/desktop.h"
 
+using memory::machine;
+
 namespace {
 
-std::deque<std::function<void()>> modalSteps;
-std::deque<int> menuChoices;
 toolkit::Control* focused = nullptr;
 
 constexpr int RowHeight = 16;
@@ -54,7 +54,7 @@ double UnitsPerPixelY() {
 void RunModal(toolkit::Window& window) {
     toolkit::Control* opener = focused;
     focused = NextInTabOrder(window, -1);
-    memory::Take(modalSteps, window.Caption(), std::function<void()>([] {}))();
+    memory::Take(machine.steps, window.Caption(), std::function<void()>([] {}))();
     if (window.Visible()) {
         ADD_FAILURE() << "still open: " << window.Caption();
         window.Hide();
@@ -74,14 +74,14 @@ std::uint32_t ItemFromPoint(const toolkit::ListBox&, int x, int y) {
 }
 
 void ShowPopupMenu(toolkit::Window&, toolkit::PopupMenu& menu) {
-    if (const int choice = memory::Take(menuChoices, menu.Caption(), -1); choice >= 0) {
+    if (const int choice = memory::Take(machine.menus, menu.Caption(), -1); choice >= 0) {
         menu.Items().at(static_cast<std::size_t>(choice))->UserClicks();
     }
 }
 
 void DoEvents() {
-    if (memory::machine.onEvents) {
-        memory::machine.onEvents();
+    if (machine.onEvents) {
+        machine.onEvents();
     }
 }
 
@@ -152,10 +152,10 @@ void Close(toolkit::Window& window) {
     window.UserCloses();
 }
 void InNextModal(std::function<void()> steps) {
-    modalSteps.push_back(std::move(steps));
+    machine.steps.push_back(std::move(steps));
 }
 void AtNextMenu(int row) {
-    menuChoices.push_back(row);
+    machine.menus.push_back(row);
 }
 
 Look LookAt(const toolkit::Control& control) {

@@ -1,6 +1,6 @@
 #include "session.h"
 
-#include <ranges>
+#include <algorithm>
 
 #include "mainwindow/application.h"
 #include "mainwindow/main_window.h"
@@ -12,9 +12,8 @@
 namespace {
 
 void Forget() {
-    for (auto* window : TheApplication.windows | std::views::reverse) {
-        window->Unload();
-    }
+    const auto& windows = TheApplication.windows;
+    std::for_each(windows.rbegin(), windows.rend(), [](auto* window) { window->Unload(); });
     ResetState();
 }
 
