@@ -13,7 +13,7 @@ namespace {
 std::string Shown(const toolkit::Control& control) {
     const driver::Look look = driver::LookAt(control);
     std::string rows;
-    int row = control.GetKind() == toolkit::Kind::ListView ? 1 : 0;
+    int row = 0;
     for (const std::string& item : look.items) {
         rows += row++ == look.index ? " [" + item + ']' : ' ' + item;
     }

@@ -39,7 +39,7 @@ void AtNextMenu(int row);
 struct Look {
     std::string text = {};                // caption, or text of a field
     std::vector<std::string> items = {};  // columns are parted by |
-    int index = -1;                       // of the selected row, as the control counts
+    int index = -1;                       // of the selected one of them, below 0 for none
     bool checked = false;
     bool enabled = true;
     bool visible = true;

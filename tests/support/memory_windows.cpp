@@ -169,7 +169,7 @@ Look LookAt(const toolkit::Control& control) {
         look.text = field->Text();
     } else if (const auto* view = As<toolkit::ListView>(control)) {
         look.text.clear();
-        look.index = view->SelectedRow();
+        look.index = view->SelectedRow() - 1;
         for (int row = 1; row <= view->RowCount(); ++row) {
             look.items.push_back(view->At(row).first + "|" + view->At(row).second);
         }

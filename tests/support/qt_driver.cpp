@@ -28,17 +28,13 @@ Widget* As(const toolkit::Control& control) {
     return dynamic_cast<Widget*>(&NativeOf(control.Owner()).Find(control).Widget());
 }
 
-/// The first row, as the control counts.
-int FirstRow(const toolkit::Control& control) {
-    return control.GetKind() == toolkit::Kind::ListView ? 1 : 0;
-}
-
 /// Where the mouse is used, as a point of the native window.
 QPoint PointOf(const toolkit::Control& control, int row) {
     const QWidget* widget = As(control);
     QPoint point(8, widget->height() / 2);
     if (auto* view = As<QAbstractItemView>(control)) {
-        const QModelIndex index = view->model()->index(row - FirstRow(control), 0);
+        const int first = control.GetKind() == toolkit::Kind::ListView ? 1 : 0;
+        const QModelIndex index = view->model()->index(row - first, 0);
         view->scrollTo(index);
         point = view->visualRect(index).center();
         widget = view->viewport();
@@ -175,7 +171,7 @@ Look LookAt(const toolkit::Control& control) {
     } else if (view != nullptr) {
         look.items = ItemsOf(*view->model());
         for (const QModelIndex& selected : view->selectionModel()->selectedRows()) {
-            look.index = selected.row() + FirstRow(control);
+            look.index = selected.row();
         }
     } else if (button != nullptr || (label != nullptr && label->buddy() != nullptr)) {
         text.replace(QLatin1String("&&"), QLatin1String("&"));  // it would mark an access key

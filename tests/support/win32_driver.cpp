@@ -191,8 +191,7 @@ Look LookAt(const toolkit::Control& control) {
         for (WPARAM row = 0; row < static_cast<WPARAM>(Ask(control, LVM_GETITEMCOUNT)); ++row) {
             look.items.push_back(CellOf(control, row, 0) + '|' + CellOf(control, row, 1));
         }
-        const LRESULT row = Ask(control, LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_SELECTED);
-        look.index = row < 0 ? -1 : static_cast<int>(row) + 1;
+        look.index = static_cast<int>(Ask(control, LVM_GETNEXTITEM, ~WPARAM(0), LVNI_SELECTED));
     } else if (kind == Kind::ListBox) {
         look.items = ItemsOf(control, LB_GETCOUNT, LB_GETTEXT);
         look.index = static_cast<int>(Ask(control, LB_GETCURSEL));
