@@ -13,9 +13,8 @@ RECT Inside(const toolkit::Window& window, const Metrics& metrics) {
 }
 
 HWND Create(const toolkit::Window& window, const Metrics& metrics) {
-    const DWORD kind = window.Table().dialog ? WS_POPUP | WS_CAPTION | WS_SYSMENU
-                                             : WS_CAPTION | WS_SYSMENU | WS_MINIMIZEBOX;
-    const DWORD style = kind | WS_CLIPCHILDREN;
+    const DWORD style = window.Table().dialog ? WS_POPUP | WS_CAPTION | WS_SYSMENU
+                                              : WS_CAPTION | WS_SYSMENU | WS_MINIMIZEBOX;
     const DWORD extended = WS_EX_CONTROLPARENT | (window.Table().dialog ? WS_EX_DLGMODALFRAME : 0);
     RECT frame = Inside(window, metrics);
     ::AdjustWindowRectEx(&frame, style, FALSE, extended);
