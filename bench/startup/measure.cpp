@@ -3,6 +3,7 @@
 // the window on the screen and of the memory in use once it is drawn. Fails when PROGRAM takes more
 // than TIME times as long or MEMORY times as much as the first BARE.
 #include <X11/Xlib.h>
+#include <poll.h>
 #include <signal.h>
 #include <spawn.h>
 #include <sys/wait.h>
@@ -40,10 +41,16 @@ double ResidentKibibytes(pid_t process) {
     return 0;
 }
 
-/// The next window that a program, and not a menu or a tip, puts on the screen.
+/// Waits for the next window that a program, and not a menu or a tip, puts on the screen.
 void WaitForWindow(Display* display) {
+    constexpr int patience = 30000;  // milliseconds
     XEvent event;
     do {
+        pollfd events = {ConnectionNumber(display), POLLIN, 0};
+        if (XPending(display) == 0 && poll(&events, 1, patience) <= 0) {
+            std::fputs("The program shows no window\n", stderr);
+            std::exit(2);
+        }
         XNextEvent(display, &event);
     } while (event.type != MapNotify || event.xmap.override_redirect != 0);
 }
