@@ -24,6 +24,13 @@ HWND Create(const toolkit::Window& window, const Metrics& metrics) {
                              ::GetModuleHandleW(nullptr), nullptr);
 }
 
+/// The program's icon in a size of the system.
+HICON Icon(HINSTANCE program, int metric) {
+    const int size = ::GetSystemMetrics(metric);
+    return static_cast<HICON>(
+        ::LoadImageW(program, ProgramIcon, IMAGE_ICON, size, size, LR_SHARED));
+}
+
 }  // namespace
 
 void NativeWindow::RegisterWindowClass() {
@@ -31,7 +38,8 @@ void NativeWindow::RegisterWindowClass() {
     description.cbSize = sizeof description;
     description.lpfnWndProc = Procedure;
     description.hInstance = ::GetModuleHandleW(nullptr);
-    description.hIcon = ::LoadIconW(description.hInstance, ProgramIcon);
+    description.hIcon = Icon(description.hInstance, SM_CXICON);
+    description.hIconSm = Icon(description.hInstance, SM_CXSMICON);
     description.hCursor = ::LoadCursorW(nullptr, IDC_ARROW);
     description.hbrBackground = reinterpret_cast<HBRUSH>(INT_PTR{COLOR_3DFACE + 1});
     description.lpszClassName = WindowClassName;
