@@ -87,15 +87,16 @@ class Reader {
     std::vector<ConfigEntry> entries_;
 };
 
-/// So that the entries of a large text need not move as they become more. How many there will be
-/// shows at its beginning.
+/// So that the entries of a large text need not move as they become more: without structures, how
+/// many there will be shows at its beginning.
 void Reader::ReserveEntries() {
-    constexpr std::size_t sample = 1 << 16;
+    constexpr std::size_t sampleSize = 1 << 16;
     constexpr std::size_t usualEntry = 16;  // characters; strings may hold many a ";"
-    const auto size = static_cast<std::size_t>(end_ - at_);
-    if (size > sample) {
-        const auto ends = static_cast<std::size_t>(std::count(at_, at_ + sample, ';'));
-        entries_.reserve((size / sample + 1) * std::min(ends, sample / usualEntry));
+    const std::string_view text(at_, static_cast<std::size_t>(end_ - at_));
+    const std::string_view sample = text.substr(0, sampleSize);
+    if (text.size() > sampleSize && sample.find('{') == std::string_view::npos) {
+        const auto ends = static_cast<std::size_t>(std::ranges::count(sample, ';'));
+        entries_.reserve((text.size() / sampleSize + 1) * std::min(ends, sampleSize / usualEntry));
     }
 }
 
