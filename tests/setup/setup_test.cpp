@@ -8,6 +8,7 @@
 #include "state/records.h"
 #include "state/settings.h"
 #include "text/ascii.h"
+#include "wad_bytes.h"
 
 namespace {
 
@@ -97,7 +98,7 @@ TEST_F(SetupCase, AddsOnlyGameWads) {
     Autodetect.InputConfiguration("game.wad = \"Proposed\"; GAME2.wad = \"never\"; n = 5;");
     const std::string game = folder.Write("Game.WAD", MapWad("IWAD", {"E1M1"}));
     InSetup([&] {
-        const std::string patch = folder.Write("p.wad", WadBytes("PWAD", {}));
+        const std::string patch = folder.Write("p.wad", WadOf({}, "PWAD"));
         for (const std::string& bad : {patch, folder.Write("t.wad", "text"), folder.Path()}) {
             memory::machine.files = {bad};
             driver::Click(frmSetup.cmdAdd);

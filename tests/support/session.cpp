@@ -7,7 +7,7 @@
 #include "state/records.h"
 #include "state/startup.h"
 #include "text/ascii.h"
-#include "wad/wad_bytes.h"
+#include "wad_bytes.h"
 
 namespace {
 
@@ -18,14 +18,6 @@ void Forget() {
 }
 
 }  // namespace
-
-std::string WadBytes(std::string_view tag, const std::vector<std::string>& lumps) {
-    std::string bytes = Header(tag, static_cast<std::int32_t>(lumps.size()), 12);
-    for (const std::string& name : lumps) {
-        bytes += Entry(12, 0, name);
-    }
-    return bytes;
-}
 
 std::vector<std::string> NumberedMaps(int count) {
     std::vector<std::string> maps;
@@ -43,7 +35,7 @@ std::string MapWad(std::string_view tag, const std::vector<std::string>& maps) {
             lumps.emplace_back(lump);
         }
     }
-    return WadBytes(tag, lumps);
+    return WadOf(lumps, tag);
 }
 
 Session::Session() {

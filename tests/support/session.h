@@ -11,8 +11,6 @@
 #include "memory.h"
 #include "temp_folder.h"
 
-/// One lump of a WAD to be made: only its name matters.
-std::string WadBytes(std::string_view tag, const std::vector<std::string>& lumps);
 /// MAP01 up to that number.
 std::vector<std::string> NumberedMaps(int count);
 /// A WAD of maps, each with its ten lumps of data.

@@ -4,9 +4,9 @@
 #include <map>
 
 #include "support/temp_folder.h"
+#include "support/wad_bytes.h"
 #include "text/ascii.h"
 #include "wad/maps.h"
-#include "wad_bytes.h"
 
 using namespace std::string_literals;
 

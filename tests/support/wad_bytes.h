@@ -23,8 +23,8 @@ inline std::string Entry(std::int32_t filePos, std::int32_t size, std::string na
 }
 
 /// A WAD of empty lumps with these names.
-inline std::string WadOf(const std::vector<std::string>& names) {
-    std::string bytes = Header("IWAD", static_cast<std::int32_t>(names.size()), 12);
+inline std::string WadOf(const std::vector<std::string>& names, std::string_view tag = "IWAD") {
+    std::string bytes = Header(tag, static_cast<std::int32_t>(names.size()), 12);
     for (const std::string& name : names) {
         bytes += Entry(12, 0, name);
     }
