@@ -39,7 +39,7 @@ void AddOnce(List& list, typename List::value_type item, Same same) {
 /// Once to warm up, then for a while; gives the mean.
 double Seconds(const std::function<void()>& work) {
     using Clock = std::chrono::steady_clock;
-    constexpr std::chrono::duration<double> whole(0.05);
+    constexpr std::chrono::duration<double> whole(0.03);
     // Each turn finds the memory that the one before it left: pages fresh from the kernel at each
     // turn would cost what handles much more than half of what is compared.
     mallopt(M_MMAP_MAX, 0);
@@ -92,7 +92,7 @@ void Comparison::Add(const std::string& row, const std::string& who, std::size_t
                                      }
                                  })
         ->Iterations(1)
-        ->Repetitions(9)
+        ->Repetitions(15)
         ->UseManualTime();
 }
 
@@ -106,7 +106,7 @@ void Comparison::Run(int argumentCount, char** arguments) const {
     Medians medians;
     benchmark::RunSpecifiedBenchmarks(&medians);
 
-    std::printf("%s: ns per %s, median of 9 runs; (times as long as that ours takes)\n\n%-28s",
+    std::printf("%s: ns per %s, median of 15 runs; (times as long as that ours takes)\n\n%-28s",
                 title_.c_str(), unit_.c_str(), "");
     for (const std::string& column : columns_) {
         std::printf("%20s", column.c_str());
