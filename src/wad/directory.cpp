@@ -35,7 +35,9 @@ std::int32_t FindNamed(const char* entries, std::int32_t start, std::int32_t cou
 }  // namespace
 
 WantedName::WantedName(std::string_view name)
-    : name_(name), first_(name.empty() ? '\0' : name.front()) {
+    : name_(name),
+      first_(name.empty() ? '\0' : name.front()),
+      isPossible_(name.size() <= lumpNameLength && name.find('\0') == std::string_view::npos) {
     name.copy(usual_.data(), usual_.size());
 }
 
@@ -46,7 +48,7 @@ bool WantedName::IsIn(const char* field) const {
         return false;
     }
     const bool isUsual = std::memcmp(field, usual_.data(), lumpNameLength) == 0;
-    return isUsual ? name_.size() <= lumpNameLength : StripLumpName(field) == name_;
+    return isUsual ? isPossible_ : StripLumpName(field) == name_;
 }
 
 std::string StripLumpName(const char* field) {

@@ -39,6 +39,7 @@ class WantedName {
   private:
     std::string_view name_;
     char first_;
+    bool isPossible_;
     LumpNameField usual_{};
 };
 

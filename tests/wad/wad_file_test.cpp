@@ -53,6 +53,7 @@ TEST_F(WadFile, NamesAreCleaned) {
         EXPECT_EQ(wad.LumpName(1), name);
         EXPECT_EQ(wad.NumForName(" " + LowerCase(name) + " "), 1) << name;
         EXPECT_EQ(wad.NumForName(name + "x"), -1) << name;
+        EXPECT_EQ(wad.NumForName(name + '\0'), -1) << name << " and a NUL that is in no name";
     }
     Open(WadOf({"map01", "EIGHTCHR"}));
     for (const char* absent : {"MAP01", "\tEIGHTCHR"}) {
