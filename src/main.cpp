@@ -1,12 +1,12 @@
 #include "mainwindow/application.h"
-#include "platform/desktop.h"
 #include "platform/facts.h"
 #include "state/startup.h"
+#include "toolkit/desktop.h"
 
 int main(int argumentCount, char** arguments) {
-    platform::StartDesktop(argumentCount, arguments);
+    desktop::StartDesktop(argumentCount, arguments);
     platform::RememberArguments(argumentCount, arguments);
-    TieApplication();
+    ConnectApplication();
     Main();
-    return platform::RunEventLoop();
+    return desktop::RunEventLoop();
 }

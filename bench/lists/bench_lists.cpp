@@ -10,10 +10,10 @@
 
 #include "mainwindow/application.h"
 #include "mainwindow/main_window.h"
-#include "platform/desktop.h"
 #include "setup/setup.h"
 #include "state/records.h"
 #include "state/startup.h"
+#include "toolkit/desktop.h"
 
 namespace {
 
@@ -23,7 +23,7 @@ double MedianMilliseconds(const std::function<void()>& work) {
     for (int run = 0; run < runs; ++run) {
         const auto start = std::chrono::steady_clock::now();
         work();
-        platform::DoEvents();
+        desktop::DoEvents();
         const std::chrono::duration<double, std::milli> time =
             std::chrono::steady_clock::now() - start;
         times.push_back(time.count());
@@ -45,8 +45,8 @@ void FillState(int count) {
 }  // namespace
 
 int main(int argumentCount, char** arguments) {
-    platform::StartDesktop(argumentCount, arguments);
-    TieApplication();
+    desktop::StartDesktop(argumentCount, arguments);
+    ConnectApplication();
     for (toolkit::Window* window : TheApplication.windows) {
         window->Load();
     }

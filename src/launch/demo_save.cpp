@@ -1,16 +1,16 @@
 #include "launch/demo_save.h"
 
+#include "dialogs/dialogs.h"
 #include "launch/command_line.h"
-#include "platform/dialogs.h"
 #include "platform/files.h"
-#include "setup/dialogs/dialogs.h"
 #include "state/records.h"
 #include "state/settings.h"
+#include "toolkit/dialogs.h"
 
 namespace {
 
 // clang-format off
-constexpr toolkit::ControlRow Rows[] = {
+constexpr toolkit::ControlSpec Rows[] = {
     {.name = "lblSaveDemo", .caption = "Save demo to...", .place = {9, 9, 220, 9},
      .names = "txtDemoFile"},
     {.name = "txtDemoFile", .place = {9, 21, 208, 14}, .tab = 0, .flags = toolkit::IsPath},
@@ -22,15 +22,15 @@ constexpr toolkit::ControlRow Rows[] = {
 };
 // clang-format on
 
-constexpr toolkit::WindowTable WindowRow = {.name = "frmDemoSave",
-                                            .caption = "Save demo",
-                                            .width = 281,
-                                            .height = 68,
-                                            .dialog = true,
-                                            .rows = Rows};
+constexpr toolkit::WindowSpec WindowRow = {.name = "frmDemoSave",
+                                           .caption = "Save demo",
+                                           .width = 281,
+                                           .height = 68,
+                                           .dialog = true,
+                                           .rows = Rows};
 
 void Warn(const std::string& text) {
-    platform::ShowMessage(text, ProgramTitle, platform::MessageIcon::Exclamation);
+    desktop::ShowMessage(text, ProgramTitle, desktop::MessageIcon::Exclamation);
 }
 
 }  // namespace
@@ -42,7 +42,7 @@ std::string DemoFilter(const std::string& extension) {
 }
 
 DemoSaveWindow::DemoSaveWindow() : Window(WindowRow) {
-    OnShow = [this] { Propose(); };
+    OnShowModal = [this] { Propose(); };
     OnCloseRequest = [this] { Hide(); };
     cmdBrowse.OnClick = [this] { Browse(); };
     cmdSave.OnClick = [this] { Save(); };

@@ -2,10 +2,10 @@
 
 #include <optional>
 
-#include "platform/desktop.h"
 #include "platform/facts.h"
 #include "platform/files.h"
 #include "platform/shell.h"
+#include "toolkit/desktop.h"
 
 namespace {
 
@@ -27,7 +27,7 @@ int RunProgram(std::string& FileName, const std::string& Parameters, int ShowCom
     const bool accepted = platform::ShellExecuteExA(info);
     if (Wait && info.hProcess) {
         while (platform::WaitForSingleObject(info.hProcess, WaitMilliseconds) != 0) {
-            platform::DoEvents();
+            desktop::DoEvents();
         }
     }
     return accepted ? 1 : 0;

@@ -7,7 +7,7 @@
 #include "setup/setup.h"
 #include "state/startup.h"
 
-void TieApplication() {
+void ConnectApplication() {
     frmSetup.OnAccepted = [] { frmMain.SetupLists(); };
     TheApplication.windows = {&frmMain, &frmSetup, &frmEngineSettings, &frmDemoSave, &frmCredits};
     TheApplication.afterLoading = [] { frmSetup.SetupLists(); };

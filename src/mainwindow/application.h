@@ -3,4 +3,4 @@
 
 /// Fills TheApplication with the windows of the system in their loading order and ties the setup
 /// dialog's end to the main window's lists.
-void TieApplication();
+void ConnectApplication();

@@ -3,14 +3,14 @@
 #include <cmath>
 #include <utility>
 
+#include "dialogs/dialogs.h"
 #include "launch/run_program.h"
 #include "mainwindow/main_window.h"
-#include "platform/desktop.h"
 #include "platform/facts.h"
 #include "platform/files.h"
-#include "setup/dialogs/dialogs.h"
 #include "state/records.h"
 #include "text/ascii.h"
+#include "toolkit/desktop.h"
 
 namespace {
 
@@ -24,7 +24,7 @@ bool IsWad(const std::string& path) {
 
 }  // namespace
 
-void MainWindow::TieFileList() {
+void MainWindow::ConnectFileList() {
     cmdAdd.OnClick = [this] { AddFiles(); };
     cmdRemove.OnClick = [this] { RemoveFile(); };
     cmdClear.OnClick = [this] { ClearFiles(); };
@@ -185,8 +185,8 @@ int ListItemAt(const toolkit::ListBox& list, double X, double Y) {
     const auto pixel = [](double units, double unitsPerPixel) {
         return static_cast<int>(std::lround(units / unitsPerPixel));
     };
-    const std::uint32_t answer = platform::ItemFromPoint(list, pixel(X, platform::UnitsPerPixelX()),
-                                                         pixel(Y, platform::UnitsPerPixelY()));
+    const std::uint32_t answer = desktop::ItemFromPoint(list, pixel(X, desktop::UnitsPerPixelX()),
+                                                        pixel(Y, desktop::UnitsPerPixelY()));
     return answer >= static_cast<std::uint32_t>(list.ListCount()) ? NoSelection
                                                                   : static_cast<int>(answer);
 }

@@ -1,12 +1,12 @@
 // The four buttons that start an engine.
+#include "dialogs/dialogs.h"
 #include "launch/command_line.h"
 #include "launch/demo_save.h"
 #include "launch/run_program.h"
 #include "mainwindow/main_window.h"
-#include "platform/dialogs.h"
 #include "platform/files.h"
-#include "setup/dialogs/dialogs.h"
 #include "state/records.h"
+#include "toolkit/dialogs.h"
 
 namespace {
 
@@ -26,7 +26,7 @@ constexpr const char* NoDemo =
     "specified.";
 
 void Warn(const char* text) {
-    platform::ShowMessage(text, ProgramTitle, platform::MessageIcon::Exclamation);
+    desktop::ShowMessage(text, ProgramTitle, desktop::MessageIcon::Exclamation);
 }
 
 /// The first file of a choice: of several, the folder and the first name behind it.

@@ -27,23 +27,23 @@ std::string VersionLine() {
 
 /// The controls that only mirror a settings key, each kind in its own way.
 void Mirror(toolkit::ItemControl& list) {
-    list.OnClick = [&list] { StoreSetting(list.Row().key, list.ListIndex()); };
+    list.OnClick = [&list] { StoreSetting(list.Spec().key, list.ListIndex()); };
 }
 
 void Mirror(toolkit::CheckBox& box) {
-    box.OnClick = [&box] { StoreSetting(box.Row().key, box.Checked() ? 1 : 0); };
+    box.OnClick = [&box] { StoreSetting(box.Spec().key, box.Checked() ? 1 : 0); };
 }
 
 void Mirror(toolkit::TextBox& box) {
-    box.OnChange = [&box] { StoreSetting(box.Row().key, box.Text()); };
+    box.OnChange = [&box] { StoreSetting(box.Spec().key, box.Text()); };
 }
 
 void Restore(toolkit::ItemControl& list) {
-    list.SetListIndex(SettingNumber(list.Row().key));
+    list.SetListIndex(SettingNumber(list.Spec().key));
 }
 
 void Restore(toolkit::CheckBox& box) {
-    box.SetChecked(SettingNumber(box.Row().key) != 0);
+    box.SetChecked(SettingNumber(box.Spec().key) != 0);
 }
 
 }  // namespace
@@ -63,8 +63,8 @@ MainWindow::MainWindow() : Window(MainWindowTable) {
     cmdRun.OnClick = [this] { Run(); };
     cmdDemo.OnClick = [this] { Record(); };
     cmdPlayBack.OnClick = [this] { PlayBack(); };
-    TieFileList();
-    TieTips();
+    ConnectFileList();
+    ConnectTips();
 }
 
 void MainWindow::MirrorControls() {

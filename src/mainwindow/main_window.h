@@ -69,7 +69,7 @@ class MainWindow : public toolkit::Window {
     void GameWadChosen();
     void ShowSettings();
 
-    void TieFileList();  // file_list.cpp
+    void ConnectFileList();  // file_list.cpp
     void AddToFileList(std::string path);
     void TakeFilesFromCommandLine(std::string_view commandLine);
     void AddFiles();
@@ -92,7 +92,7 @@ class MainWindow : public toolkit::Window {
     void PlayBack();
     void RunQuickStart();
 
-    void TieTips();  // tips.cpp
+    void ConnectTips();  // tips.cpp
     void ShowTip(const std::string& tip);
     void PointerOverFiles(double x, double y);
 

@@ -2,9 +2,9 @@
 #include <vector>
 
 #include "mainwindow/main_window.h"
-#include "platform/dialogs.h"
 #include "state/records.h"
 #include "text/ascii.h"
+#include "toolkit/dialogs.h"
 #include "wad/maps.h"
 #include "wad/wad.h"
 
@@ -27,8 +27,8 @@ void MainWindow::UseFirstMap() {
     }
     const std::string shownPath = LowerCase(fileName);
     if (firstMap.empty()) {
-        platform::ShowMessage("There are no map lumps in " + shownPath + ".", ProgramTitle,
-                              platform::MessageIcon::Information);
+        desktop::ShowMessage("There are no map lumps in " + shownPath + ".", ProgramTitle,
+                             desktop::MessageIcon::Information);
         return;
     }
     for (int row = 0; row < cmbMaps.ListCount(); ++row) {
@@ -37,11 +37,11 @@ void MainWindow::UseFirstMap() {
             return;
         }
     }
-    platform::ShowMessage("Warning: The map " + firstMap +
-                              " does not appear in the game WAD.\r\n"
-                              "Make sure you have selected the game WAD matching the one needed "
-                              "for " +
-                              shownPath + ".",
-                          ProgramTitle, platform::MessageIcon::Exclamation);
+    desktop::ShowMessage("Warning: The map " + firstMap +
+                             " does not appear in the game WAD.\r\n"
+                             "Make sure you have selected the game WAD matching the one needed "
+                             "for " +
+                             shownPath + ".",
+                         ProgramTitle, desktop::MessageIcon::Exclamation);
     cmbMaps.SetText(firstMap);
 }

@@ -5,7 +5,7 @@ namespace {
 using namespace toolkit;
 
 // clang-format off
-constexpr ControlRow Rows[] = {
+constexpr ControlSpec Rows[] = {
     // The title band.
     {.name = "picTopTitle", .place = {0, 0, 376, 35}},
     {.name = "shpFiller", .place = {0, 0, 376, 35}, .picture = "title"},
@@ -63,5 +63,5 @@ constexpr ControlRow Rows[] = {
 
 }  // namespace
 
-constinit const WindowTable MainWindowTable = {
+constinit const WindowSpec MainWindowTable = {
     .name = "frmMain", .caption = "Zorvane", .width = 376, .height = 286, .rows = Rows};

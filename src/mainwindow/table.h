@@ -3,4 +3,4 @@
 
 #include "toolkit/window.h"
 
-extern const toolkit::WindowTable MainWindowTable;
+extern const toolkit::WindowSpec MainWindowTable;

@@ -1,7 +1,7 @@
 // The line at the bottom of the window that says what the control under the pointer does.
 #include "mainwindow/main_window.h"
 
-void MainWindow::TieTips() {
+void MainWindow::ConnectTips() {
     const struct {
         toolkit::Control& control;
         const char* tip;

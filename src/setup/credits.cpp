@@ -11,7 +11,7 @@ using toolkit::Follows;
 using toolkit::Link;
 
 // clang-format off
-constexpr toolkit::ControlRow Rows[] = {
+constexpr toolkit::ControlSpec Rows[] = {
     {.name = "lblCreditType0", .caption = "Programming", .place = {12, 10, 230, 9}, .flags = Bold},
     {.name = "lblProgrammer", .caption = "The authors of Zorvane", .place = {12, 21, 230, 9}},
     {.name = "lblCreditType1", .caption = "Additional code", .place = {12, 38, 230, 9},
@@ -35,12 +35,12 @@ constexpr toolkit::ControlRow Rows[] = {
 };
 // clang-format on
 
-constexpr toolkit::WindowTable WindowRow = {.name = "frmCredits",
-                                            .caption = "Zorvane credits",
-                                            .width = 294,
-                                            .height = 160,
-                                            .dialog = true,
-                                            .rows = Rows};
+constexpr toolkit::WindowSpec WindowRow = {.name = "frmCredits",
+                                           .caption = "Zorvane credits",
+                                           .width = 294,
+                                           .height = 160,
+                                           .dialog = true,
+                                           .rows = Rows};
 
 /// A link shows its own address.
 void Open(const toolkit::Label& link) {

@@ -4,7 +4,7 @@
 
 namespace {
 
-using toolkit::ControlRow;
+using toolkit::ControlSpec;
 using toolkit::Place;
 
 constexpr int BoxesInColumn = OptionCount / 2;
@@ -18,7 +18,7 @@ constexpr const char* BoxNames[OptionCount] = {
 constexpr auto MakeRows() {
     constexpr std::size_t OtherRows = 4;
     // clang-format off
-    std::array<ControlRow, OptionCount + OtherRows> rows{{
+    std::array<ControlSpec, OptionCount + OtherRows> rows{{
         {.name = "Frame1", .caption = "Options", .place = {9, 8, 340, 122}, .tab = 18},
         {.name = "lblParametersCaption", .caption = "Command line parameters",
          .place = {9, 137, 340, 9}, .tab = 19, .names = "lblParameters"},
@@ -37,12 +37,12 @@ constexpr auto MakeRows() {
 }
 
 constexpr auto Rows = MakeRows();
-constexpr toolkit::WindowTable WindowRow = {.name = "frmEngineSettings",
-                                            .caption = "Engine settings",
-                                            .width = 358,
-                                            .height = 213,
-                                            .dialog = true,
-                                            .rows = Rows};
+constexpr toolkit::WindowSpec WindowRow = {.name = "frmEngineSettings",
+                                           .caption = "Engine settings",
+                                           .width = 358,
+                                           .height = 213,
+                                           .dialog = true,
+                                           .rows = Rows};
 
 }  // namespace
 

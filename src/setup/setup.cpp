@@ -1,17 +1,17 @@
 #include "setup/setup.h"
 
-#include "platform/dialogs.h"
-#include "setup/dialogs/dialogs.h"
+#include "dialogs/dialogs.h"
 #include "setup/engine_settings.h"
 #include "state/records.h"
 #include "state/settings.h"
 #include "text/ascii.h"
+#include "toolkit/dialogs.h"
 #include "wad/wad.h"
 
 namespace {
 
 // clang-format off
-constexpr toolkit::ControlRow Rows[] = {
+constexpr toolkit::ControlSpec Rows[] = {
     {.name = "lblIWADs", .caption = "Game WADs", .place = {9, 8, 200, 9}, .tab = 8,
      .names = "lvwIWADs"},
     {.name = "lvwIWADs", .caption = "Name|File", .place = {9, 19, 358, 76}, .tab = 0},
@@ -28,12 +28,12 @@ constexpr toolkit::ControlRow Rows[] = {
 };
 // clang-format on
 
-constexpr toolkit::WindowTable WindowRow = {.name = "frmSetup",
-                                            .caption = "Program setup",
-                                            .width = 376,
-                                            .height = 260,
-                                            .dialog = true,
-                                            .rows = Rows};
+constexpr toolkit::WindowSpec WindowRow = {.name = "frmSetup",
+                                           .caption = "Program setup",
+                                           .width = 376,
+                                           .height = 260,
+                                           .dialog = true,
+                                           .rows = Rows};
 
 constexpr const char* WadFilter = "WAD files (*.wad)|*.wad|All files (*.*)|*.*";
 constexpr const char* PatchWadMessage =
@@ -93,12 +93,12 @@ void SetupWindow::Add() {
         return;
     }
     if (!IsGameWad(file)) {
-        platform::ShowMessage(PatchWadMessage, ProgramTitle, platform::MessageIcon::Exclamation);
+        desktop::ShowMessage(PatchWadMessage, ProgramTitle, desktop::MessageIcon::Exclamation);
         return;
     }
-    const std::string name = platform::AskForText(
-        "Please enter the formal name of the game WAD " + LowerCase(file) + ".", NameTitle,
-        ProposedName(file));
+    const std::string name =
+        desktop::AskForText("Please enter the formal name of the game WAD " + LowerCase(file) + ".",
+                            NameTitle, ProposedName(file));
     if (name.empty()) {
         return;
     }
@@ -119,7 +119,7 @@ void SetupWindow::Rename() {
         return;
     }
     GameWadRecord& gameWad = GameWadAt(lvwIWADs.SelectedRow() - 1);
-    const std::string name = platform::AskForText(
+    const std::string name = desktop::AskForText(
         "Please enter the name of the game WAD " + UpperCase(gameWad.file) + ".", NameTitle,
         gameWad.name);
     if (name.empty()) {

@@ -2,11 +2,11 @@
 
 #include <algorithm>
 
-#include "platform/dialogs.h"
 #include "platform/files.h"
 #include "state/records.h"
 #include "state/startup.h"
 #include "text/ascii.h"
+#include "toolkit/dialogs.h"
 
 namespace {
 
@@ -60,7 +60,7 @@ void ReadEngineFile(const std::string& fileName) {
 void ScanEngineFiles(const std::string& directory) {
     const std::vector<std::string> names = platform::ListFiles(directory, "*.cfg");
     if (names.empty()) {
-        platform::ShowMessage(NoEngineFiles, ProgramTitle, platform::MessageIcon::Critical);
+        desktop::ShowMessage(NoEngineFiles, ProgramTitle, desktop::MessageIcon::Critical);
         ShutDown();
     }
     const std::string prefix = directory + "\\";

@@ -2,10 +2,10 @@
 
 #include <variant>
 
-#include "platform/dialogs.h"
 #include "platform/facts.h"
 #include "state/engine_files.h"
 #include "state/startup.h"
+#include "toolkit/dialogs.h"
 
 namespace {
 
@@ -131,7 +131,7 @@ void LoadSettings() {
     const bool isOurs =
         outcome && type != nullptr && type->IsText() && type->AsText() == SettingsMark;
     if (!isOurs) {
-        platform::ShowMessage(CorruptedMessage, ProgramTitle, platform::MessageIcon::Critical);
+        desktop::ShowMessage(CorruptedMessage, ProgramTitle, desktop::MessageIcon::Critical);
         ShutDown();
     }
     LoadLists();

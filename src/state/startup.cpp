@@ -2,12 +2,12 @@
 
 #include <algorithm>
 
-#include "platform/dialogs.h"
 #include "platform/facts.h"
 #include "platform/files.h"
 #include "state/engine_files.h"
 #include "state/records.h"
 #include "state/settings.h"
+#include "toolkit/dialogs.h"
 #include "toolkit/window.h"
 
 Application TheApplication;
@@ -20,9 +20,9 @@ bool shuttingDown = false;
 
 void TellUnsaved(const platform::Outcome& outcome) {
     if (!outcome) {
-        platform::ShowMessage(
+        desktop::ShowMessage(
             "The settings could not be saved to " + SettingsFileName + "\r\n" + outcome.reason,
-            ProgramTitle, platform::MessageIcon::Critical);
+            ProgramTitle, desktop::MessageIcon::Critical);
     }
 }
 

@@ -6,8 +6,8 @@ namespace toolkit {
 namespace {
 
 /// A control without a row is a slip of its window's author, found at the first start.
-const ControlRow& RowOf(const Window& window, std::string_view name) {
-    for (const ControlRow& row : window.Table().rows) {
+const ControlSpec& RowOf(const Window& window, std::string_view name) {
+    for (const ControlSpec& row : window.Spec().rows) {
         if (row.name == name) {
             return row;
         }
@@ -35,42 +35,42 @@ void Control::Reset() {
     visible_ = true;
 }
 
-void Control::Draw(platform::Aspect aspect, int row) {
+void Control::Changed(desktop::Property property, int row) {
     if (window_.Loaded()) {
-        platform::Draw(*this, aspect, row);
+        desktop::PropertyChanged(*this, property, row);
     }
 }
 
 void Control::SetCaption(std::string caption) {
     if (caption != caption_) {
         caption_ = std::move(caption);
-        Draw(platform::Aspect::Caption);
+        Changed(desktop::Property::Caption);
     }
 }
 
 void Control::SetEnabled(bool enabled) {
     if (enabled != enabled_) {
         enabled_ = enabled;
-        Draw(platform::Aspect::Enabled);
+        Changed(desktop::Property::Enabled);
     }
 }
 
 void Control::SetVisible(bool visible) {
     if (visible != visible_) {
         visible_ = visible;
-        Draw(platform::Aspect::Visible);
+        Changed(desktop::Property::Visible);
     }
 }
 
 void Control::SetToolTip(std::string toolTip) {
     if (toolTip != toolTip_) {
         toolTip_ = std::move(toolTip);
-        Draw(platform::Aspect::ToolTip);
+        Changed(desktop::Property::ToolTip);
     }
 }
 
 void Control::SetFocus() {
-    Draw(platform::Aspect::Focus);
+    Changed(desktop::Property::Focus);
 }
 
 void Control::UserMovesPointer(double x, double y) {
@@ -102,7 +102,7 @@ void Button::UserClicks() {
 void CheckBox::SetChecked(bool checked) {
     if (checked != checked_) {
         checked_ = checked;
-        Draw(platform::Aspect::Checked);
+        Changed(desktop::Property::Checked);
         Run(OnClick);
     }
 }
@@ -115,7 +115,7 @@ void CheckBox::Reset() {
 void TextBox::SetText(std::string text) {
     if (text != text_) {
         text_ = std::move(text);
-        Draw(platform::Aspect::Text);
+        Changed(desktop::Property::Text);
         Run(OnChange);
     }
 }

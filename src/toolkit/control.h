@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-#include "platform/desktop.h"
+#include "toolkit/desktop.h"
 #include "toolkit/window.h"
 
 namespace toolkit {
@@ -34,7 +34,7 @@ class Control {
 
     Kind GetKind() const { return kind_; }
     Window& Owner() const { return window_; }
-    const ControlRow& Row() const { return row_; }
+    const ControlSpec& Spec() const { return row_; }
     bool Has(Flag flag) const { return (row_.flags & flag) != 0; }
 
     const std::string& Caption() const { return caption_; }
@@ -61,7 +61,7 @@ class Control {
     Control(Window& window, Kind kind, std::string_view name);
     virtual ~Control() = default;
 
-    void Draw(platform::Aspect aspect, int row = -1);
+    void Changed(desktop::Property property, int row = -1);
     /// Takes the state that the table tells, without an event.
     virtual void Reset();
 
@@ -69,7 +69,7 @@ class Control {
     friend class Window;
 
     Window& window_;
-    const ControlRow& row_;
+    const ControlSpec& row_;
     Kind kind_;
     std::string caption_;
     std::string toolTip_;

@@ -5,7 +5,7 @@ namespace toolkit {
 void ItemControl::MoveTo(int row) {
     index_ = row;
     IndexChanged();
-    Draw(platform::Aspect::Selection);
+    Changed(desktop::Property::Selection);
 }
 
 void ItemControl::SetListIndex(int row) {
@@ -33,28 +33,28 @@ void ItemControl::UserSelects(int row) {
 
 void ItemControl::AddItem(std::string text) {
     items_.push_back(std::move(text));
-    Draw(platform::Aspect::ItemAdded, ListCount() - 1);
+    Changed(desktop::Property::ItemAdded, ListCount() - 1);
 }
 
 void ItemControl::RemoveItem(int row) {
     items_.erase(items_.begin() + row);
     const int old = index_;
-    Draw(platform::Aspect::ItemRemoved, row);
+    Changed(desktop::Property::ItemRemoved, row);
     if (old >= row) {
         index_ = old == row ? -1 : old - 1;
         if (index_ < 0) {
             IndexChanged();
         }
-        Draw(platform::Aspect::Selection);
+        Changed(desktop::Property::Selection);
     }
 }
 
 void ItemControl::Clear() {
     items_.clear();
     index_ = -1;
-    Draw(platform::Aspect::ItemsCleared);
+    Changed(desktop::Property::ItemsCleared);
     IndexChanged();
-    Draw(platform::Aspect::Selection);
+    Changed(desktop::Property::Selection);
 }
 
 void ItemControl::Reset() {
@@ -71,8 +71,8 @@ void ListBox::UserDoubleClicks() {
 
 void ComboBox::SetText(std::string text) {
     UserTypes(std::move(text));
-    Draw(platform::Aspect::Selection);
-    Draw(platform::Aspect::Text);
+    Changed(desktop::Property::Selection);
+    Changed(desktop::Property::Text);
 }
 
 void ComboBox::UserTypes(std::string text) {
@@ -82,7 +82,7 @@ void ComboBox::UserTypes(std::string text) {
 
 void ComboBox::IndexChanged() {
     text_ = ListIndex() < 0 ? std::string() : List(ListIndex());
-    Draw(platform::Aspect::Text);
+    Changed(desktop::Property::Text);
 }
 
 void ComboBox::Reset() {
@@ -94,19 +94,19 @@ void ListView::SelectRow(int row) {
     const int target = row >= 1 && row <= RowCount() ? row : -1;
     if (target != selected_) {
         selected_ = target;
-        Draw(platform::Aspect::Selection);
+        Changed(desktop::Property::Selection);
     }
 }
 
 void ListView::AddRow(std::string first, std::string second) {
     entries_.push_back({std::move(first), std::move(second)});
-    Draw(platform::Aspect::ItemAdded, RowCount());
+    Changed(desktop::Property::ItemAdded, RowCount());
 }
 
 void ListView::Clear() {
     entries_.clear();
     selected_ = -1;
-    Draw(platform::Aspect::ItemsCleared);
+    Changed(desktop::Property::ItemsCleared);
 }
 
 void ListView::UserDoubleClicks() {

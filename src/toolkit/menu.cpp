@@ -1,6 +1,6 @@
 #include "toolkit/menu.h"
 
-#include "platform/desktop.h"
+#include "toolkit/desktop.h"
 
 namespace toolkit {
 
@@ -15,7 +15,7 @@ void MenuItem::UserClicks() {
 }
 
 void PopupMenu::PopUp(Window& window) {
-    platform::ShowPopupMenu(window, *this);
+    desktop::ShowPopupMenu(window, *this);
 }
 
 }  // namespace toolkit

@@ -1,7 +1,7 @@
 #include "toolkit/window.h"
 
-#include "platform/desktop.h"
 #include "toolkit/control.h"
+#include "toolkit/desktop.h"
 
 namespace toolkit {
 
@@ -14,7 +14,7 @@ void Window::Load() {
         control->Reset();
     }
     loaded_ = true;
-    platform::LoadWindow(*this);
+    desktop::LoadWindow(*this);
     if (OnLoad) {
         OnLoad();
     }
@@ -25,21 +25,21 @@ void Window::Unload() {
         return;
     }
     Hide();
-    platform::UnloadWindow(*this);
+    desktop::UnloadWindow(*this);
     loaded_ = false;
 }
 
 void Window::Show() {
     if (!visible_) {
         visible_ = true;
-        platform::ShowWindow(*this);
+        desktop::ShowWindow(*this);
     }
 }
 
 void Window::Hide() {
     if (visible_) {
         visible_ = false;
-        platform::HideWindow(*this);
+        desktop::HideWindow(*this);
     }
 }
 
@@ -47,27 +47,27 @@ void Window::ShowModal() {
     if (visible_) {
         return;
     }
-    if (OnShow) {
-        OnShow();
+    if (OnShowModal) {
+        OnShowModal();
     }
     visible_ = true;
-    platform::RunModal(*this);
+    desktop::RunModal(*this);
 }
 
 void Window::Repaint() {
-    platform::RepaintWindow(*this);
+    desktop::RepaintWindow(*this);
 }
 
 void Window::SetCaption(std::string caption) {
     if (caption != caption_) {
         caption_ = std::move(caption);
-        platform::DrawCaption(*this);
+        desktop::CaptionChanged(*this);
     }
 }
 
 Control* Window::Find(std::string_view name) const {
     for (Control* control : controls_) {
-        if (control->Row().name == name) {
+        if (control->Spec().name == name) {
             return control;
         }
     }

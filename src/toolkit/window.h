@@ -36,7 +36,7 @@ enum Flag : unsigned {
 };
 
 /// One control of a window, as data.
-struct ControlRow {
+struct ControlSpec {
     std::string_view name;
     std::string_view caption = {};  // the heads of a list view's two columns, "|" between
     Place place;
@@ -49,19 +49,19 @@ struct ControlRow {
 };
 
 /// One window, as data. Its size is fixed.
-struct WindowTable {
+struct WindowSpec {
     std::string_view name;
     std::string_view caption;
     int width = 0;        // dialog units, without the frame
     int height = 0;       // dialog units
     bool dialog = false;  // no minimise button, no entry in the task bar, centred on the screen
-    std::span<const ControlRow> rows;
+    std::span<const ControlSpec> rows;
 };
 
 /// A window of the system: hidden or shown, never destroyed by the user.
 class Window {
   public:
-    explicit Window(const WindowTable& table) : table_(table), caption_(table.caption) {}
+    explicit Window(const WindowSpec& table) : table_(table), caption_(table.caption) {}
     Window(const Window&) = delete;
     Window& operator=(const Window&) = delete;
     ~Window() = default;
@@ -75,8 +75,8 @@ class Window {
     void Show();
     void Hide();
     bool Visible() const { return visible_; }
-    /// Runs OnShow, shows the window modally and returns when it has been hidden. Nothing happens
-    /// if the window is visible already.
+    /// Runs OnShowModal, shows the window modally and returns when it has been hidden. Nothing
+    /// happens if the window is visible already.
     void ShowModal();
     /// Draws the whole window at once.
     void Repaint();
@@ -84,7 +84,7 @@ class Window {
     const std::string& Caption() const { return caption_; }
     void SetCaption(std::string caption);
 
-    const WindowTable& Table() const { return table_; }
+    const WindowSpec& Spec() const { return table_; }
     /// The window's controls in the order of its class, which need not be that of the table.
     const std::vector<Control*>& Controls() const { return controls_; }
     /// The control of that name, null when there is none.
@@ -96,7 +96,7 @@ class Window {
     void UserMovesPointer();
 
     std::function<void()> OnLoad;
-    std::function<void()> OnShow;
+    std::function<void()> OnShowModal;
     /// A close request. The window stays; what is to happen is the handler's business.
     std::function<void()> OnCloseRequest;
     std::function<void()> OnPointerMoved;
@@ -104,7 +104,7 @@ class Window {
   private:
     friend class Control;
 
-    const WindowTable& table_;
+    const WindowSpec& table_;
     std::string caption_;
     std::vector<Control*> controls_;
     bool loaded_ = false;

@@ -4,7 +4,7 @@
 
 #include "contract/form.h"
 #include "driver.h"
-#include "platform/desktop.h"
+#include "toolkit/desktop.h"
 
 namespace {
 
@@ -43,18 +43,18 @@ class Controls : public testing::Test {
     void TearDown() override {
         dialog.Unload();
         form.Unload();
-        platform::DoEvents();
+        desktop::DoEvents();
     }
 
     void ShowForm() {
         form.Load();
         form.Show();
-        platform::DoEvents();
+        desktop::DoEvents();
     }
 
     /// Takes the steps; after each the control shows what is said, and as many events have come.
     void Follow(const toolkit::Control& control, const std::vector<Step>& steps) {
-        SCOPED_TRACE(control.Row().name);
+        SCOPED_TRACE(control.Spec().name);
         for (const Step& step : steps) {
             step.act();
             EXPECT_EQ(Shown(control), step.shown) << step.what;
@@ -217,7 +217,7 @@ TEST_F(Controls, ListBoxesTellThePointer) {
         list.AddItem(text);
     }
     const auto rowAt = [&](double x, double y) {
-        return platform::ItemFromPoint(list, static_cast<int>(x), static_cast<int>(y));
+        return desktop::ItemFromPoint(list, static_cast<int>(x), static_cast<int>(y));
     };
     std::uint32_t row = 0;
     list.OnPointerMoved = [&](double x, double y) { row = rowAt(x, y); };
@@ -253,7 +253,7 @@ TEST_F(Controls, PointerOverTheBareWindowAndNothingElse) {
 
 TEST_F(Controls, ModalWindowsComeAndGo) {
     dialog.Load();
-    dialog.OnShow = [&] { pressed = "shown "; };
+    dialog.OnShowModal = [&] { pressed = "shown "; };
     dialog.OnCloseRequest = [&] { dialog.Hide(); };
     dialog.cmdOK.OnClick = [&] { dialog.Hide(); };
     form.cmbFixed.SetFocus();

@@ -1,12 +1,12 @@
 // A real windowing system wants to be started once, before the first window.
 #include <gtest/gtest.h>
 
-#include "platform/desktop.h"
+#include "toolkit/desktop.h"
 
 int main(int argumentCount, char** arguments) {
     testing::InitGoogleTest(&argumentCount, arguments);
     if (!GTEST_FLAG_GET(list_tests)) {
-        platform::StartDesktop(argumentCount, arguments);
+        desktop::StartDesktop(argumentCount, arguments);
     }
     return RUN_ALL_TESTS();
 }

@@ -5,7 +5,7 @@
 #include "toolkit/lists.h"
 
 // clang-format off
-inline constexpr toolkit::ControlRow FormRows[] = {
+inline constexpr toolkit::ControlSpec FormRows[] = {
     {.name = "framAll", .caption = "All", .place = {4, 4, 292, 192}},
     {.name = "lblRows", .caption = "Files & more", .place = {10, 16, 48, 12}, .names = "lstRows"},
     {.name = "lblLink", .caption = "R&D", .place = {180, 36, 60, 12}, .flags = toolkit::Link},
@@ -21,14 +21,14 @@ inline constexpr toolkit::ControlRow FormRows[] = {
      .picture = "map", .spoken = "No"},
     {.name = "txtPath", .place = {140, 160, 100, 14}, .tab = 8, .flags = toolkit::IsPath},
 };
-inline constexpr toolkit::WindowTable FormTable = {
+inline constexpr toolkit::WindowSpec FormTable = {
     .name = "frmForm", .caption = "Form", .width = 300, .height = 200, .rows = FormRows};
 
-inline constexpr toolkit::ControlRow DialogRows[] = {
+inline constexpr toolkit::ControlSpec DialogRows[] = {
     {.name = "cmdOK", .caption = "OK", .place = {10, 10, 50, 14}, .tab = 0,
      .flags = toolkit::Default},
 };
-inline constexpr toolkit::WindowTable DialogTable = {
+inline constexpr toolkit::WindowSpec DialogTable = {
     .name = "frmDialog", .caption = "Dialog", .width = 100, .height = 40, .dialog = true,
     .rows = DialogRows};
 // clang-format on

@@ -216,13 +216,13 @@ void Play(const std::string& part) {
 }  // namespace
 
 int main(int argumentCount, char** arguments) {
-    platform::StartDesktop(argumentCount, arguments);
+    desktop::StartDesktop(argumentCount, arguments);
     platform::RememberArguments(1, arguments);
     folder = arguments[2];
     pictureFolder = arguments[3];
-    TieApplication();
+    ConnectApplication();
     Main();
     QTimer::singleShot(80'000, [] { Check(false, "the tour comes to its end"); });
     QTimer::singleShot(0, [=] { Play(arguments[1]); });
-    return platform::RunEventLoop() + 1;
+    return desktop::RunEventLoop() + 1;
 }

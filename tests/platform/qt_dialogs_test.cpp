@@ -10,9 +10,9 @@
 #include <QTest>
 
 #include "driver.h"
-#include "platform/dialogs.h"
-#include "platform/qt/picked_files.h"
 #include "temp_folder.h"
+#include "toolkit/dialogs.h"
+#include "toolkit/qt/picked_files.h"
 
 namespace {
 
@@ -40,7 +40,7 @@ void Answer(const std::string& text) {
     QTest::keyClick(Field(), Qt::Key_Return);
 }
 
-std::string Buffer(std::string text, std::size_t size = platform::FileBufferSize) {
+std::string Buffer(std::string text, std::size_t size = desktop::FileBufferSize) {
     text.resize(size, '\0');
     return text;
 }
@@ -50,30 +50,30 @@ TEST(Dialogs, FillTheRecordWithTheFilesPicked) {
     for (const char* name : {"a.wad", "B.WAD", "notes.txt", "sub/c.wad"}) {
         folder.Write(name, "");
     }
-    constexpr std::uint32_t One = platform::OfnFileMustExist;
-    constexpr std::uint32_t Several = One | platform::OfnAllowMultiSelect;
-    constexpr std::uint32_t Prompt = platform::OfnOverwritePrompt;
+    constexpr std::uint32_t One = desktop::OfnFileMustExist;
+    constexpr std::uint32_t Several = One | desktop::OfnAllowMultiSelect;
+    constexpr std::uint32_t Prompt = desktop::OfnOverwritePrompt;
     const struct {
-        bool (*show)(platform::OpenFileName&);
+        bool (*show)(desktop::OpenFileName&);
         std::uint32_t flags;
         std::string typed;
         std::string picked;
     } rows[] = {
-        {platform::GetOpenFileNameA, One, "a.wad", folder.Path("a.wad")},
-        {platform::GetOpenFileNameA, One, "", ""},
-        {platform::GetOpenFileNameA, Several, R"("a.wad" "B.WAD")",
+        {desktop::GetOpenFileNameA, One, "a.wad", folder.Path("a.wad")},
+        {desktop::GetOpenFileNameA, One, "", ""},
+        {desktop::GetOpenFileNameA, Several, R"("a.wad" "B.WAD")",
          folder.Path() + "\0a.wad\0B.WAD"s},
-        {platform::GetOpenFileNameA, Several, "sub/c.wad", folder.Path("sub\\c.wad")},
-        {platform::GetOpenFileNameA, 0, "new.wad", folder.Path("new.wad")},
-        {platform::GetSaveFileNameA, 0, "a.wad", folder.Path("a.wad")},
-        {platform::GetSaveFileNameA, Prompt, "a.wad", folder.Path("a.wad")},
+        {desktop::GetOpenFileNameA, Several, "sub/c.wad", folder.Path("sub\\c.wad")},
+        {desktop::GetOpenFileNameA, 0, "new.wad", folder.Path("new.wad")},
+        {desktop::GetSaveFileNameA, 0, "a.wad", folder.Path("a.wad")},
+        {desktop::GetSaveFileNameA, Prompt, "a.wad", folder.Path("a.wad")},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.typed);
-        platform::OpenFileName record = {
+        desktop::OpenFileName record = {
             .lpstrFilter = "WAD files (*.wad)\0*.wad\0All files (*.*)\0*.*"s,
             .lpstrFile = Buffer(""),
-            .nMaxFile = platform::FileBufferSize,
+            .nMaxFile = desktop::FileBufferSize,
             .lpstrInitialDir = folder.Path(),
             .lpstrTitle = "Pick",
             .Flags = row.flags};
@@ -105,8 +105,8 @@ TEST(Dialogs, ChooseFolders) {
             EXPECT_TRUE(std::ranges::any_of(labels, [](auto* l) { return l->text() == "Where?"; }));
             Answer(typed);
         });
-        EXPECT_EQ(platform::BrowseForFolderPath({nullptr, "Where?"}),
-                  typed.empty() ? "" : Buffer(folder.Path(), platform::FolderBufferSize));
+        EXPECT_EQ(desktop::BrowseForFolderPath({nullptr, "Where?"}),
+                  typed.empty() ? "" : Buffer(folder.Path(), desktop::FolderBufferSize));
     }
 }
 
@@ -116,7 +116,7 @@ TEST(Messages, ShowTheirExactText) {
         EXPECT_EQ(Dialog()->windowTitle(), "Zorvane");
         Answer("");
     });
-    platform::ShowMessage("One <b>\r\nZ:\\two", "Zorvane", platform::MessageIcon::Critical);
+    desktop::ShowMessage("One <b>\r\nZ:\\two", "Zorvane", desktop::MessageIcon::Critical);
 }
 
 TEST(Messages, AskForALine) {
@@ -125,15 +125,15 @@ TEST(Messages, AskForALine) {
             EXPECT_EQ(Field()->selectedText(), "Doom") << "typing replaces it";
             Answer(typed);
         });
-        EXPECT_EQ(platform::AskForText("Name?", "Enter a name", "Doom"), typed);
+        EXPECT_EQ(desktop::AskForText("Name?", "Enter a name", "Doom"), typed);
     }
     driver::InNextModal([] { QTest::keyClick(Field(), Qt::Key_Return); });
-    EXPECT_EQ(platform::AskForText("Name?", "Enter a name", "caf\xE9"), "caf\xE9")
+    EXPECT_EQ(desktop::AskForText("Name?", "Enter a name", "caf\xE9"), "caf\xE9")
         << "what was not touched keeps its bytes";
 }
 
 TEST(PickedFiles, FillTheBufferOfTheRecord) {
-    const std::string longName = "Z:\\" + std::string(platform::FileBufferSize - 5, 'x');
+    const std::string longName = "Z:\\" + std::string(desktop::FileBufferSize - 5, 'x');
     const std::pair<std::vector<std::string>, std::string> cases[] = {
         {{"Z:\\a.wad", "Z:\\b.wad"}, "Z:\\\0a.wad\0b.wad"s},
         {{"Z:\\v\\a.wad", "Z:\\w\\b.wad"}, ""},
@@ -141,15 +141,15 @@ TEST(PickedFiles, FillTheBufferOfTheRecord) {
         {{longName + "x"}, ""},
     };
     for (const auto& [paths, text] : cases) {
-        platform::OpenFileName record;
-        record.nMaxFile = platform::FileBufferSize;
-        EXPECT_EQ(platform::qt::PutPickedFiles(record, paths), !text.empty()) << text;
+        desktop::OpenFileName record;
+        record.nMaxFile = desktop::FileBufferSize;
+        EXPECT_EQ(desktop::PutPickedFiles(record, paths), !text.empty()) << text;
         EXPECT_EQ(record.lpstrFile, Buffer(text));
     }
 }
 
 TEST(PickedFiles, FiltersPassOverCase) {
-    const QStringList filters = platform::qt::NameFilters("Demos\0*.lmp;*.Cdm\0All\0*.*"s);
+    const QStringList filters = desktop::NameFilters("Demos\0*.lmp;*.Cdm\0All\0*.*"s);
     EXPECT_EQ(filters.join('|'), "Demos (*.lmp *.Cdm *.LMP *.CDM)|All (*)");
 }
 

@@ -1,9 +1,9 @@
 #include "setup/setup.h"
 
+#include "dialogs/dialogs.h"
 #include "launch/command_line.h"
 #include "mainwindow/main_window.h"
 #include "session.h"
-#include "setup/dialogs/dialogs.h"
 #include "setup/engine_settings.h"
 #include "state/records.h"
 #include "state/settings.h"

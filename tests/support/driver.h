@@ -53,7 +53,7 @@ std::string ShownCaption(const toolkit::Window& window);
 inline std::string Focused(const toolkit::Window& window) {
     for (const toolkit::Control* control : window.Controls()) {
         if (LookAt(*control).focused) {
-            return std::string(control->Row().name);
+            return std::string(control->Spec().name);
         }
     }
     return {};

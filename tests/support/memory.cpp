@@ -24,7 +24,7 @@ void Reset() {
 
 namespace {
 
-bool AnswerFileDialog(platform::OpenFileName& record) {
+bool AnswerFileDialog(desktop::OpenFileName& record) {
     machine.fileQuestions.push_back(record);
     const std::string answer = Take(machine.files, record.lpstrTitle);
     if (answer.empty() || answer.size() > record.nMaxFile - 2) {
@@ -72,6 +72,10 @@ std::uint32_t WaitForSingleObject(const ProcessHandle&, std::uint32_t) {
     return machine.rounds-- > 0 ? TimeOut : 0;
 }
 
+}  // namespace platform
+
+namespace desktop {
+
 bool GetOpenFileNameA(OpenFileName& record) {
     return memory::AnswerFileDialog(record);
 }
@@ -94,4 +98,4 @@ std::string AskForText(const std::string& prompt, const std::string&, const std:
     return memory::Take(machine.texts, prompt);
 }
 
-}  // namespace platform
+}  // namespace desktop

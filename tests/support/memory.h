@@ -10,8 +10,8 @@
 #include <utility>
 #include <vector>
 
-#include "platform/dialogs.h"
 #include "platform/facts.h"
+#include "toolkit/dialogs.h"
 
 namespace memory {
 
@@ -38,7 +38,7 @@ struct Machine {
     std::deque<std::string> texts;            // typed into input boxes
     std::deque<int> menus;                    // chosen rows, -1 for none
     std::deque<std::function<void()>> steps;  // taken in modal windows
-    std::vector<platform::OpenFileName> fileQuestions;
+    std::vector<desktop::OpenFileName> fileQuestions;
     std::vector<std::string> folderQuestions;
     std::vector<TextQuestion> textQuestions;
 

@@ -1,7 +1,7 @@
 // Windows in memory, and what a person does there.
 #include "driver.h"
 #include "memory.h"
-#include "platform/desktop.h"
+#include "toolkit/desktop.h"
 
 using memory::machine;
 
@@ -22,8 +22,8 @@ toolkit::Control* NextInTabOrder(const toolkit::Window& window, int tab) {
     for (toolkit::Control* control : window.Controls()) {
         const bool takesFocus =
             control->Enabled() && control->Visible() && control->GetKind() != toolkit::Kind::Label;
-        if (takesFocus && control->Row().tab > tab &&
-            (next == nullptr || control->Row().tab < next->Row().tab)) {
+        if (takesFocus && control->Spec().tab > tab &&
+            (next == nullptr || control->Spec().tab < next->Spec().tab)) {
             next = control;
         }
     }
@@ -32,7 +32,7 @@ toolkit::Control* NextInTabOrder(const toolkit::Window& window, int tab) {
 
 }  // namespace
 
-namespace platform {
+namespace desktop {
 
 void LoadWindow(toolkit::Window&) {}
 void UnloadWindow(toolkit::Window&) {
@@ -43,7 +43,7 @@ void ShowWindow(toolkit::Window& window) {
 }
 void HideWindow(toolkit::Window&) {}
 void RepaintWindow(toolkit::Window&) {}
-void DrawCaption(toolkit::Window&) {}
+void CaptionChanged(toolkit::Window&) {}
 double UnitsPerPixelX() {
     return 1;
 }
@@ -62,8 +62,8 @@ void RunModal(toolkit::Window& window) {
     focused = opener;
 }
 
-void Draw(toolkit::Control& control, Aspect aspect, int) {
-    if (aspect == Aspect::Focus) {
+void PropertyChanged(toolkit::Control& control, Property property, int) {
+    if (property == Property::Focus) {
         focused = &control;
     }
 }
@@ -85,7 +85,7 @@ void DoEvents() {
     }
 }
 
-}  // namespace platform
+}  // namespace desktop
 
 namespace driver {
 
@@ -131,7 +131,7 @@ void Type(toolkit::Control& control, const std::string& text) {
 
 void Press(toolkit::Window& window, Key key) {
     if (key == Key::Tab) {
-        focused = NextInTabOrder(window, focused == nullptr ? -1 : focused->Row().tab);
+        focused = NextInTabOrder(window, focused == nullptr ? -1 : focused->Spec().tab);
         return;
     }
     const bool isEnter = key == Key::Enter;

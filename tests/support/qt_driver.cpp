@@ -11,16 +11,16 @@
 #include <deque>
 
 #include "driver.h"
-#include "platform/qt/native_window.h"
-#include "platform/qt/text.h"
+#include "toolkit/qt/native_window.h"
+#include "toolkit/qt/text.h"
 
 namespace {
 
-using platform::qt::Encode;
-using platform::qt::NativeWindow;
+using desktop::Encode;
+using desktop::NativeWindow;
 
 NativeWindow& NativeOf(const toolkit::Window& window) {
-    return *platform::qt::MakeNative(const_cast<toolkit::Window&>(window));
+    return *desktop::MakeNative(const_cast<toolkit::Window&>(window));
 }
 
 template <class Widget = QWidget>

@@ -68,7 +68,7 @@ void Session::WriteSettings(std::string_view lines) {
 
 bool Session::Start() {
     Forget();
-    TieApplication();
+    ConnectApplication();
     return !Ends([] { Main(); });
 }
 

@@ -4,10 +4,10 @@
 
 #include <utility>
 
-#include "platform/desktop.h"
-#include "platform/win32/registry.h"
 #include "platform/win32/text.h"
 #include "text/ascii.h"
+#include "toolkit/desktop.h"
+#include "toolkit/win32/native_windows.h"
 
 namespace {
 
@@ -18,11 +18,11 @@ std::vector<WPARAM> menuKeys;
 UINT_PTR menuTimer;
 
 HWND HandleOf(const toolkit::Window& window) {
-    return platform::EnsureNative(window)->Handle();
+    return desktop::EnsureNative(window)->Handle();
 }
 
 HWND HandleOf(const toolkit::Control& control) {
-    return platform::EnsureNative(control.Owner())->Find(control)->Handle();
+    return desktop::EnsureNative(control.Owner())->Find(control)->Handle();
 }
 
 LRESULT Ask(const toolkit::Control& control, UINT message, WPARAM wParam = 0, LPARAM lParam = 0) {
@@ -36,7 +36,7 @@ void Post(HWND window, const std::vector<UINT>& messages, POINT point) {
     for (const UINT message : messages) {
         PostMessageW(window, message, 0, MAKELPARAM(point.x, point.y));
     }
-    platform::DoEvents();
+    desktop::DoEvents();
 }
 
 /// Sends the mouse to what Windows finds at a point of a window or a control.
@@ -152,19 +152,19 @@ void Type(toolkit::Control& control, const std::string& text) {
     for (const wchar_t character : L'\b' + platform::Wide(text)) {
         PostMessageW(GetFocus(), WM_CHAR, character, 1);
     }
-    platform::DoEvents();
+    desktop::DoEvents();
 }
 
 void Press(toolkit::Window& window, Key key) {
     const HWND target = IsChild(HandleOf(window), GetFocus()) ? GetFocus() : HandleOf(window);
     PostMessageW(target, WM_KEYDOWN, static_cast<WPARAM>(key), 1);
     PostMessageW(target, WM_KEYUP, static_cast<WPARAM>(key), static_cast<LPARAM>(0xC0000001));
-    platform::DoEvents();
+    desktop::DoEvents();
 }
 
 void Close(toolkit::Window& window) {
     PostMessageW(HandleOf(window), WM_SYSCOMMAND, SC_CLOSE, 0);
-    platform::DoEvents();
+    desktop::DoEvents();
 }
 
 /// For one window at a time: the steps come first in its loop.

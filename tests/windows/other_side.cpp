@@ -11,7 +11,7 @@
 
 int main(int /*argumentCount*/, char** arguments) {
     memory::machine.programDirectory = arguments[1];
-    TieApplication();
+    ConnectApplication();
     Main();
     driver::Click(frmMain.cmdRun);
     std::cout << memory::machine.started.at(0).parameters << '\n';

@@ -7,8 +7,8 @@
 #include <functional>
 #include <string>
 
-#include "platform/win32/control_ids.h"
 #include "toolkit/control.h"
+#include "toolkit/win32/control_ids.h"
 
 namespace remote {
 
@@ -25,7 +25,7 @@ DWORD ExitCode(HANDLE process);
 
 /// The window of that caption, one of Zorvane's own or of another class, once it shows and takes
 /// input; the native control of a control in the window that has the caption of its owner.
-HWND Find(const std::string& caption, const wchar_t* className = platform::WindowClassName);
+HWND Find(const std::string& caption, const wchar_t* className = desktop::WindowClassName);
 HWND Find(const toolkit::Control& control);
 
 void Press(HWND button);

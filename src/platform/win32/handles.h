@@ -1,4 +1,4 @@
-// Owners of native handles: each is given back when its owner goes.
+// Owners of native handles: each releases its handle when it is destroyed.
 #pragma once
 
 #include <memory>
@@ -19,14 +19,6 @@ struct Releaser {
 template <typename Handle, auto Release>
 using Owned = std::unique_ptr<std::remove_pointer_t<Handle>, Releaser<Release>>;
 
-using OwnedFont = Owned<HFONT, ::DeleteObject>;
-using OwnedBrush = Owned<HBRUSH, ::DeleteObject>;
-using OwnedPen = Owned<HPEN, ::DeleteObject>;
-using OwnedBitmap = Owned<HBITMAP, ::DeleteObject>;
-using OwnedIcon = Owned<HICON, ::DestroyIcon>;
-using OwnedMenu = Owned<HMENU, ::DestroyMenu>;
-using OwnedContext = Owned<HDC, ::DeleteDC>;
-
 /// A kernel handle that may be INVALID_HANDLE_VALUE, which counts as none.
 inline void CloseValidHandle(HANDLE handle) {
     if (handle != INVALID_HANDLE_VALUE) {
@@ -34,33 +26,5 @@ inline void CloseValidHandle(HANDLE handle) {
     }
 }
 using OwnedHandle = Owned<HANDLE, CloseValidHandle>;
-
-/// The drawing context of a window, borrowed from Windows.
-class WindowContext {
-  public:
-    explicit WindowContext(HWND window) : window_(window), context_(::GetDC(window)) {}
-    WindowContext(const WindowContext&) = delete;
-    WindowContext& operator=(const WindowContext&) = delete;
-    ~WindowContext() { ::ReleaseDC(window_, context_); }
-    HDC Get() const { return context_; }
-
-  private:
-    HWND window_;
-    HDC context_;
-};
-
-/// A GDI object chosen into a context for as long as this lives.
-class Chosen {
-  public:
-    Chosen(HDC context, HGDIOBJ object)
-        : context_(context), old_(::SelectObject(context, object)) {}
-    Chosen(const Chosen&) = delete;
-    Chosen& operator=(const Chosen&) = delete;
-    ~Chosen() { ::SelectObject(context_, old_); }
-
-  private:
-    HDC context_;
-    HGDIOBJ old_;
-};
 
 }  // namespace platform

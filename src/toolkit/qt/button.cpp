@@ -1,0 +1,104 @@
+#include <QIcon>
+#include <QPainter>
+#include <QPushButton>
+#include <QStyle>
+#include <QStyleOption>
+
+#include "toolkit/qt/controls.h"
+#include "toolkit/qt/look.h"
+#include "toolkit/qt/pictures.h"
+#include "toolkit/qt/text.h"
+
+namespace desktop {
+namespace {
+
+class ButtonWidget : public QPushButton, public NativeControl {
+  public:
+    ButtonWidget(toolkit::Button& button, QWidget& parent) : QPushButton(&parent), button_(button) {
+        setAutoDefault(false);
+        setDefault(button.Has(toolkit::Default));
+        ButtonWidget::Apply(Property::Caption, -1);
+        connect(this, &QPushButton::clicked, this, [this] { button_.UserClicks(); });
+    }
+
+    QWidget& Widget() override { return *this; }
+
+    void Apply(Property property, int) override {
+        if (property == Property::Caption) {
+            setText(WithoutAccessKeys(Shown(button_.Caption())));
+        }
+    }
+
+  private:
+    toolkit::Button& button_;
+};
+
+/// As large as the font wants it, whatever the size in which the picture comes.
+class PictureButtonWidget final : public ButtonWidget {
+  public:
+    PictureButtonWidget(toolkit::Button& button, QWidget& parent) : ButtonWidget(button, parent) {
+        const int side = fontMetrics().height() * 8 / 7;
+        const double pixels = side * devicePixelRatioF();
+        setIcon(LoadPicture(button.Spec().picture, pixels / 16, palette()));
+        setIconSize(QSize(side, side));
+    }
+};
+
+/// The button in the colour of the program, the same on every desktop.
+class AccentButtonWidget final : public ButtonWidget {
+  public:
+    AccentButtonWidget(toolkit::Button& button, QWidget& parent) : ButtonWidget(button, parent) {
+        QFont bold = Scaled(font(), 1.15);
+        bold.setBold(true);
+        setFont(bold);
+        setAttribute(Qt::WA_Hover);
+    }
+
+  protected:
+    void paintEvent(QPaintEvent*) override {
+        QStyleOptionButton option;
+        initStyleOption(&option);
+        const bool ringed = option.state.testFlag(QStyle::State_HasFocus) &&
+                            option.state.testFlag(QStyle::State_KeyboardFocusChange);
+        QPainter painter(this);
+        painter.setRenderHint(QPainter::Antialiasing);
+        DrawBox(painter, Fill(option), accent.darker(128), 0.5);
+        if (ringed) {
+            DrawBox(painter, Qt::transparent, Qt::white, 3.5);
+        }
+        const double strength = isEnabled() ? 1 : 0.6;
+        painter.setPen(QColor::fromRgbF(1, 1, 1, static_cast<float>(strength)));
+        painter.drawText(rect(), Qt::AlignCenter | Qt::TextShowMnemonic, text());
+    }
+
+  private:
+    void DrawBox(QPainter& painter, const QColor& fill, const QColor& outline, double inset) {
+        painter.setPen(QPen(outline, 1));
+        painter.setBrush(fill);
+        painter.drawRoundedRect(QRectF(rect()).adjusted(inset, inset, -inset, -inset), 4, 4);
+    }
+
+    static QColor Fill(const QStyleOptionButton& option) {
+        if (!option.state.testFlag(QStyle::State_Enabled)) {
+            return Blend(accent, option.palette.color(QPalette::Window), 0.5);
+        }
+        if (option.state.testFlag(QStyle::State_Sunken)) {
+            return accent.darker(125);
+        }
+        return option.state.testFlag(QStyle::State_MouseOver) ? accent.lighter(112) : accent;
+    }
+};
+
+}  // namespace
+
+NativeControl* MakeButton(toolkit::Button& button, QWidget& parent) {
+    if (button.GetKind() == toolkit::Kind::PictureButton) {
+        return new PictureButtonWidget(button, parent);
+    }
+    if (button.Has(toolkit::Accent)) {
+        return new AccentButtonWidget(button, parent);
+    }
+    return new ButtonWidget(button, parent);
+}
+
+}  // namespace desktop

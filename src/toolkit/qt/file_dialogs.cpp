@@ -1,0 +1,101 @@
+#include <QDir>
+#include <QFile>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QLabel>
+#include <QLayout>
+
+#include "platform/posix/paths.h"
+#include "toolkit/dialogs.h"
+#include "toolkit/qt/native_window.h"
+#include "toolkit/qt/picked_files.h"
+#include "toolkit/qt/text.h"
+
+namespace desktop {
+namespace {
+
+QWidget* OwnerOf(const toolkit::Window* window) {
+    QWidget* owner = NativeOf(window);
+    return owner != nullptr && owner->isVisible() ? owner : FrontWindow();
+}
+
+/// Bytes of a path as the system's own files have them.
+std::string WindowsPathOf(const QString& native) {
+    const QByteArray bytes = QFile::encodeName(QDir::cleanPath(native));
+    return platform::WindowsPath(
+        std::string_view(bytes.constData(), static_cast<std::size_t>(bytes.size())));
+}
+
+void StartIn(QFileDialog& dialog, const std::string& folder) {
+    const auto native = folder.empty() ? std::nullopt : platform::FindPath(folder);
+    const QString path = native ? QFile::decodeName(native->c_str()) : QString();
+    if (!path.isEmpty() && QFileInfo(path).isDir()) {
+        dialog.setDirectory(path);
+    }
+}
+
+bool PickFiles(QFileDialog& dialog, OpenFileName& record) {
+    dialog.setWindowTitle(Shown(record.lpstrTitle));
+    dialog.setOption(QFileDialog::HideNameFilterDetails);
+    dialog.setNameFilters(NameFilters(record.lpstrFilter));
+    StartIn(dialog, record.lpstrInitialDir);
+    std::vector<std::string> paths;
+    if (dialog.exec() == QDialog::Accepted) {
+        for (const QString& file : dialog.selectedFiles()) {
+            paths.push_back(WindowsPathOf(file));
+        }
+    }
+    return PutPickedFiles(record, paths);
+}
+
+/// Desktops that hide the titles of dialogs, and Qt's own dialog, show the line in the dialog.
+void ShowInstruction(QFileDialog& dialog, const QString& text) {
+    dialog.setWindowTitle(text);
+    if (QLayout* layout = dialog.layout()) {
+        auto* label = new QLabel(text, &dialog);
+        label->setTextFormat(Qt::PlainText);
+        label->setWordWrap(true);
+        label->setContentsMargins(layout->contentsMargins());
+        layout->setMenuBar(label);
+    }
+}
+
+}  // namespace
+
+bool GetOpenFileNameA(OpenFileName& record) {
+    QFileDialog dialog(OwnerOf(record.hwndOwner));
+    dialog.setAcceptMode(QFileDialog::AcceptOpen);
+    const bool several = (record.Flags & OfnAllowMultiSelect) != 0;
+    const bool mustExist = (record.Flags & OfnFileMustExist) != 0;
+    dialog.setFileMode(several     ? QFileDialog::ExistingFiles
+                       : mustExist ? QFileDialog::ExistingFile
+                                   : QFileDialog::AnyFile);
+    return PickFiles(dialog, record);
+}
+
+bool GetSaveFileNameA(OpenFileName& record) {
+    QFileDialog dialog(OwnerOf(record.hwndOwner));
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setFileMode(QFileDialog::AnyFile);
+    const bool asks = (record.Flags & OfnOverwritePrompt) != 0;
+    dialog.setOption(QFileDialog::DontConfirmOverwrite, !asks);
+    return PickFiles(dialog, record);
+}
+
+std::string BrowseForFolderPath(const BrowseInfo& info) {
+    QFileDialog dialog(OwnerOf(info.hwndOwner));
+    dialog.setFileMode(QFileDialog::Directory);
+    dialog.setOption(QFileDialog::ShowDirsOnly);
+    ShowInstruction(dialog, Shown(info.lpszTitle));
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
+        return {};
+    }
+    std::string path = WindowsPathOf(dialog.selectedFiles().constFirst());
+    if (path.size() >= FolderBufferSize) {
+        path.clear();
+    }
+    path.resize(FolderBufferSize, '\0');
+    return path;
+}
+
+}  // namespace desktop

@@ -1,0 +1,141 @@
+#include <QHelpEvent>
+#include <QListView>
+#include <QMouseEvent>
+#include <QScopedValueRollback>
+#include <QStyledItemDelegate>
+#include <QToolTip>
+#include <algorithm>
+
+#include "toolkit/qt/controls.h"
+#include "toolkit/qt/item_model.h"
+
+namespace desktop {
+namespace {
+
+/// Rows as wide as the list, so that a long path is shortened in its middle, and no row is
+/// measured.
+class RowDelegate final : public QStyledItemDelegate {
+  public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex&) const override {
+        return {0, option.fontMetrics.height() * 3 / 2};
+    }
+};
+
+class ListBoxWidget final : public QListView, public NativeControl {
+  public:
+    ListBoxWidget(toolkit::ListBox& list, QWidget& parent)
+        : QListView(&parent), list_(list), items_(list, this), rows_(this) {
+        setUniformItemSizes(true);
+        setItemDelegate(&rows_);
+        setTextElideMode(Qt::ElideMiddle);
+        setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+        setEditTriggers(NoEditTriggers);
+        setModel(&items_);
+        Apply(Property::Selection, -1);
+    }
+
+    QWidget& Widget() override { return *this; }
+    QWidget& Surface() override { return *viewport(); }
+    bool ReportsButtons() const override { return true; }
+
+    void Apply(Property property, int row) override {
+        const QScopedValueRollback silence(silent_, true);
+        items_.Follow(property, row);
+        if (property == Property::Selection) {
+            const QModelIndex index = items_.index(list_.ListIndex());
+            selectionModel()->setCurrentIndex(index, QItemSelectionModel::ClearAndSelect);
+        }
+    }
+
+    std::uint32_t RowUnder(QPoint point) const {
+        const QModelIndex index = indexAt(point);
+        if (viewport()->rect().contains(point) && index.isValid()) {
+            return static_cast<std::uint32_t>(index.row());
+        }
+        const QModelIndex first = indexAt(QPoint(0, 0));
+        const bool above = point.y() < 0 && first.isValid();
+        const QModelIndex level = indexAt(QPoint(0, point.y()));
+        const int last = std::max(0, list_.ListCount() - 1);
+        const int nearest = above ? first.row() : level.isValid() ? level.row() : last;
+        return 0x10000U | static_cast<std::uint32_t>(nearest);
+    }
+
+  protected:
+    /// The press selects, the release tells; the right button does neither.
+    void mousePressEvent(QMouseEvent* event) override {
+        if (event->button() == Qt::LeftButton) {
+            pressed_ = indexAt(event->position().toPoint()).isValid();
+            QListView::mousePressEvent(event);
+        }
+    }
+
+    void mouseReleaseEvent(QMouseEvent* event) override {
+        if (event->button() == Qt::LeftButton) {
+            QListView::mouseReleaseEvent(event);
+            if (std::exchange(pressed_, false)) {
+                ReportSelection();
+            }
+        }
+        const int button = event->button() == Qt::LeftButton    ? 1
+                           : event->button() == Qt::RightButton ? 2
+                                                                : 0;
+        if (button != 0) {
+            list_.UserReleasesButton(button, event->position().x(), event->position().y());
+        }
+    }
+
+    void mouseDoubleClickEvent(QMouseEvent* event) override {
+        if (event->button() == Qt::LeftButton && indexAt(event->position().toPoint()).isValid()) {
+            list_.UserDoubleClicks();
+        }
+    }
+
+    void selectionChanged(const QItemSelection& now, const QItemSelection& before) override {
+        QListView::selectionChanged(now, before);
+        if (!silent_ && !pressed_) {
+            ReportSelection();
+        }
+    }
+
+    /// A click with the Ctrl key would take the selection away.
+    QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index,
+                                                         const QEvent*) const override {
+        return index.isValid() ? QItemSelectionModel::ClearAndSelect
+                               : QItemSelectionModel::NoUpdate;
+    }
+
+    bool viewportEvent(QEvent* event) override {
+        if (event->type() == QEvent::ToolTip) {
+            QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), toolTip(), viewport());
+            return true;
+        }
+        return QListView::viewportEvent(event);
+    }
+
+  private:
+    void ReportSelection() {
+        const QModelIndexList selected = selectedIndexes();
+        if (!selected.isEmpty()) {
+            list_.UserSelects(selected.first().row());
+        }
+    }
+
+    toolkit::ListBox& list_;
+    ItemModel items_;
+    RowDelegate rows_;
+    bool silent_ = false;   // drawing
+    bool pressed_ = false;  // the left button is down on a row
+};
+
+}  // namespace
+
+NativeControl* MakeListBox(toolkit::ListBox& list, QWidget& parent) {
+    return new ListBoxWidget(list, parent);
+}
+
+std::uint32_t RowUnderPoint(const NativeControl& listBox, QPoint point) {
+    return static_cast<const ListBoxWidget&>(listBox).RowUnder(point);
+}
+
+}  // namespace desktop

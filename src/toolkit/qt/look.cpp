@@ -1,0 +1,76 @@
+#include "toolkit/qt/look.h"
+
+#include <QApplication>
+#include <QFontInfo>
+#include <QStyle>
+
+#include "toolkit/qt/style.h"
+
+namespace desktop {
+namespace {
+
+struct RoleColour {
+    QPalette::ColorRole role;
+    QRgb light;
+    QRgb dark;
+};
+
+constexpr RoleColour roleColours[] = {
+    {QPalette::Window, 0xFFF3F1EF, 0xFF262120},
+    {QPalette::WindowText, 0xFF222222, 0xFFECE6E2},
+    {QPalette::Base, 0xFFFFFFFF, 0xFF1B1716},
+    {QPalette::AlternateBase, 0xFFFAF8F6, 0xFF211C1B},
+    {QPalette::Text, 0xFF222222, 0xFFECE6E2},
+    {QPalette::Button, 0xFFFDFDFD, 0xFF38302E},
+    {QPalette::ButtonText, 0xFF222222, 0xFFECE6E2},
+    {QPalette::Light, 0xFFFFFFFF, 0xFF4A403D},
+    {QPalette::Midlight, 0xFFD8D2CD, 0xFF3F3734},
+    {QPalette::Mid, 0xFFB9B4B0, 0xFF635853},
+    {QPalette::Dark, 0xFF9C9691, 0xFF847872},
+    {QPalette::Highlight, 0xFFF6DDD3, 0xFF6A3020},
+    {QPalette::HighlightedText, 0xFF222222, 0xFFFFFFFF},
+    {QPalette::Link, 0xFF0B57D0, 0xFF8AB4F8},
+    {QPalette::ToolTipBase, 0xFFFFF9EF, 0xFF38302E},
+    {QPalette::ToolTipText, 0xFF222222, 0xFFECE6E2},
+};
+
+constexpr double disabledShare = 0.55;
+
+QPalette WarmPalette(QPalette palette, bool dark) {
+    for (const RoleColour& row : roleColours) {
+        palette.setColor(row.role, QColor(dark ? row.dark : row.light));
+    }
+    const QColor window = palette.color(QPalette::Active, QPalette::Window);
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
+        const QColor weak = Blend(palette.color(QPalette::Active, role), window, disabledShare);
+        palette.setColor(QPalette::Disabled, role, weak);
+    }
+    return palette;
+}
+
+}  // namespace
+
+bool IsDark(const QPalette& palette) {
+    return palette.color(QPalette::Window).lightness() <
+           palette.color(QPalette::WindowText).lightness();
+}
+
+QColor Blend(const QColor& from, const QColor& to, double share) {
+    const auto mix = [share](int a, int b) { return a + static_cast<int>((b - a) * share); };
+    return {mix(from.red(), to.red()), mix(from.green(), to.green()), mix(from.blue(), to.blue())};
+}
+
+QFont Scaled(QFont font, double factor) {
+    font.setPointSizeF(QFontInfo(font).pointSizeF() * factor);
+    return font;
+}
+
+void ApplyLook() {
+    if (QApplication::style()->name() != QLatin1String("fusion")) {
+        return;
+    }
+    QApplication::setPalette(WarmPalette(QApplication::palette(), IsDark(QApplication::palette())));
+    QApplication::setStyle(new Style);  // which the application owns from here on
+}  // NOLINT(clang-analyzer-cplusplus.NewDeleteLeaks)
+
+}  // namespace desktop

@@ -1,0 +1,24 @@
+#include "toolkit/menu.h"
+
+#include <QCursor>
+#include <QMenu>
+
+#include "toolkit/desktop.h"
+#include "toolkit/qt/native_window.h"
+#include "toolkit/qt/text.h"
+
+namespace desktop {
+
+void ShowPopupMenu(toolkit::Window& window, toolkit::PopupMenu& menu) {
+    QMenu native(NativeOf(&window));
+    for (const toolkit::MenuItem* item : menu.Items()) {
+        QAction* action = native.addAction(WithoutAccessKeys(Shown(item->Caption())));
+        action->setEnabled(item->Enabled());
+    }
+    const qsizetype chosen = native.actions().indexOf(native.exec(QCursor::pos()));
+    if (chosen >= 0) {
+        menu.Items()[static_cast<std::size_t>(chosen)]->UserClicks();
+    }
+}
+
+}  // namespace desktop

@@ -1,0 +1,246 @@
+#include "toolkit/qt/native_window.h"
+
+#include <QCloseEvent>
+#include <QGuiApplication>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QMouseEvent>
+#include <QPushButton>
+#include <QScreen>
+#include <algorithm>
+#include <cmath>
+#include <vector>
+
+#include "toolkit/qt/text.h"
+
+namespace desktop {
+namespace {
+
+/// Pixels of a dialog unit, across and down.
+struct UnitSize {
+    double across;
+    double down;
+};
+
+UnitSize UnitsOf(const QFont& font) {
+    const QString letters = QStringLiteral("ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz");
+    const QFontMetricsF metrics(font);
+    const double average = metrics.horizontalAdvance(letters) / static_cast<double>(letters.size());
+    return {average / 4, metrics.height() / 8};
+}
+
+/// Rounds the edges and not the sizes, so that what is flush in units is flush on the screen.
+QRect InPixels(const toolkit::Place& place, const UnitSize& unit) {
+    const QPoint from(qRound(place.x * unit.across), qRound(place.y * unit.down));
+    const QPoint end(qRound((place.x + place.width) * unit.across),
+                     qRound((place.y + place.height) * unit.down));
+    return {from, QSize(end.x() - from.x(), end.y() - from.y())};
+}
+
+bool StandsUnderneath(toolkit::Kind kind) {
+    return kind == toolkit::Kind::Frame || kind == toolkit::Kind::Divider ||
+           kind == toolkit::Kind::Picture;
+}
+
+Qt::WindowFlags FlagsOf(const toolkit::WindowSpec& table) {
+    const Qt::WindowFlags common =
+        Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint;
+    return table.dialog ? Qt::Dialog | common : Qt::Window | Qt::WindowMinimizeButtonHint | common;
+}
+
+QString NameOf(std::string_view name) {
+    return QString::fromLatin1(name.data(), static_cast<qsizetype>(name.size()));
+}
+
+}  // namespace
+
+NativeWindow::NativeWindow(toolkit::Window& window)
+    : QWidget(nullptr, FlagsOf(window.Spec())), window_(window) {
+    setObjectName(NameOf(window.Spec().name));
+    setWindowTitle(Shown(window.Caption()));
+    setMouseTracking(true);
+    MakeControls(true);
+    MakeControls(false);
+    PlaceControls();
+    SetTabOrder();
+    NameControls();
+}
+
+void NativeWindow::MakeControls(bool underneath) {
+    for (const toolkit::ControlSpec& row : window_.Spec().rows) {
+        toolkit::Control* control = window_.Find(row.name);
+        if (control != nullptr && StandsUnderneath(control->GetKind()) == underneath) {
+            Add(*control);
+        }
+    }
+}
+
+void NativeWindow::Add(toolkit::Control& control) {
+    NativeControl* native = MakeControl(control, *this);
+    natives_.emplace(&control, native);
+    QWidget& widget = native->Widget();
+    widget.setObjectName(NameOf(control.Spec().name));
+    // What moves over a control is not for the window beneath it.
+    widget.setAttribute(Qt::WA_NoMousePropagation);
+    if (control.Spec().tab < 0) {
+        widget.setFocusPolicy(widget.focusPolicy() & Qt::ClickFocus ? Qt::ClickFocus : Qt::NoFocus);
+    }
+    QWidget& surface = native->Surface();
+    surface.setMouseTracking(true);
+    surface.installEventFilter(this);
+    surfaces_.insert(&surface, &control);
+    if (!control.Enabled()) {
+        widget.setEnabled(false);
+    }
+    if (!control.Visible()) {
+        widget.hide();
+    }
+    if (!control.ToolTip().empty()) {
+        ApplyProperty(*native, control, Property::ToolTip, -1);
+    }
+}
+
+void NativeWindow::PlaceControls() {
+    const UnitSize unit = UnitsOf(font());
+    const toolkit::WindowSpec& table = window_.Spec();
+    setFixedSize(InPixels({0, 0, table.width, table.height}, unit).size());
+    const QWidget* before = nullptr;
+    for (const toolkit::ControlSpec& row : table.rows) {
+        const toolkit::Control* control = window_.Find(row.name);
+        if (control == nullptr) {
+            continue;
+        }
+        QWidget& widget = Find(*control).Widget();
+        QRect place = InPixels(row.place, unit);
+        if (control->Has(toolkit::Follows) && before != nullptr) {
+            // Only here is a text measured: it costs a good part of the start.
+            place.moveLeft(before->x() + before->sizeHint().width());
+            place.setWidth(widget.sizeHint().width());
+        }
+        widget.setGeometry(place);
+        before = &widget;
+    }
+}
+
+void NativeWindow::SetTabOrder() {
+    std::vector<const toolkit::Control*> order;
+    for (const toolkit::Control* control : window_.Controls()) {
+        if (control->Spec().tab >= 0) {
+            order.push_back(control);
+        }
+    }
+    std::ranges::sort(order, {}, [](const toolkit::Control* c) { return c->Spec().tab; });
+    QWidget* previous = nullptr;
+    for (const toolkit::Control* control : order) {
+        QWidget& widget = Find(*control).Widget();
+        if (previous != nullptr) {
+            setTabOrder(previous, &widget);
+        } else if (focusWidget() == nullptr && widget.focusPolicy() != Qt::NoFocus) {
+            widget.setFocus();
+        }
+        previous = &widget;
+    }
+}
+
+/// For a screen reader: a label names its control, and a control without either tells its own name.
+void NativeWindow::NameControls() {
+    for (toolkit::Control* control : window_.Controls()) {
+        const toolkit::ControlSpec& row = control->Spec();
+        if (!row.spoken.empty()) {
+            Find(*control).Widget().setAccessibleName(Decode(row.spoken));
+        }
+        const toolkit::Control* named = row.names.empty() ? nullptr : window_.Find(row.names);
+        auto* label = dynamic_cast<QLabel*>(&Find(*control).Widget());
+        if (named != nullptr && label != nullptr) {
+            label->setBuddy(&Find(*named).Widget());
+            Find(*named).Widget().setAccessibleName(Decode(control->Caption()));
+        }
+    }
+}
+
+void NativeWindow::Centre(const QWidget* owner) {
+    const QScreen* where = owner != nullptr ? owner->screen() : QGuiApplication::primaryScreen();
+    if (where != nullptr) {
+        const QRect area = where->availableGeometry();
+        move(area.center() - rect().center());
+    }
+}
+
+void NativeWindow::Retire() {
+    surfaces_.clear();
+    setEnabled(false);
+    hide();
+    deleteLater();
+}
+
+bool NativeWindow::eventFilter(QObject* watched, QEvent* event) {
+    toolkit::Control* control = surfaces_.value(watched);
+    if (control == nullptr) {
+        return QWidget::eventFilter(watched, event);
+    }
+    if (event->type() == QEvent::MouseMove || event->type() == QEvent::Enter) {
+        const QPointF at = static_cast<QSinglePointEvent*>(event)->position();
+        control->UserMovesPointer(at.x(), at.y());
+    } else if (event->type() == QEvent::MouseButtonRelease && !Find(*control).ReportsButtons()) {
+        const auto* mouse = static_cast<QMouseEvent*>(event);
+        const int button = mouse->button() == Qt::LeftButton ? 1 : 2;
+        control->UserReleasesButton(button, mouse->position().x(), mouse->position().y());
+    }
+    return false;
+}
+
+void NativeWindow::mouseMoveEvent(QMouseEvent*) {
+    window_.UserMovesPointer();
+}
+
+void NativeWindow::enterEvent(QEnterEvent* event) {
+    if (isEnabled() && childAt(event->position().toPoint()) == nullptr) {
+        window_.UserMovesPointer();
+    }
+}
+
+/// Presses the first button with that flag. Whether there is one.
+bool NativeWindow::PressButton(toolkit::Flag flag) {
+    const auto& controls = window_.Controls();
+    const auto found = std::ranges::find_if(
+        controls, [flag](const toolkit::Control* control) { return control->Has(flag); });
+    if (found == controls.end()) {
+        return false;
+    }
+    static_cast<toolkit::Button*>(*found)->UserClicks();
+    return true;
+}
+
+void NativeWindow::keyPressEvent(QKeyEvent* event) {
+    const bool plain = (event->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
+    if (plain && (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)) {
+        if (auto* focused = qobject_cast<QPushButton*>(focusWidget())) {
+            focused->click();
+        } else {
+            PressButton(toolkit::Default);
+        }
+    } else if (plain && event->key() == Qt::Key_Escape) {
+        if (!PressButton(toolkit::Cancel) && window_.Spec().dialog) {
+            window_.UserCloses();
+        }
+    } else {
+        QWidget::keyPressEvent(event);
+    }
+}
+
+void NativeWindow::closeEvent(QCloseEvent* event) {
+    event->ignore();
+    if (isEnabled()) {
+        window_.UserCloses();
+    }
+}
+
+/// The desktop's font may change while the window is there.
+void NativeWindow::changeEvent(QEvent* event) {
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::FontChange) {
+        PlaceControls();
+    }
+}
+
+}  // namespace desktop

@@ -1,0 +1,213 @@
+#include "toolkit/qt/style.h"
+
+#include <QComboBox>
+#include <QPainter>
+#include <QPainterPath>
+#include <QStyleOption>
+
+#include "toolkit/qt/look.h"
+
+namespace desktop {
+namespace {
+
+constexpr double roundness = 4;
+/// Room at the left of the text in fields, beside what the plain style leaves.
+constexpr int textInset = 4;
+
+/// A rounded surface whose outline, a pixel wide, lies inside of `rect`.
+void DrawSurface(QPainter& painter, const QRect& rect, const QColor& fill, const QPen& outline,
+                 double radius = roundness) {
+    const double inset = outline.widthF() / 2;
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(outline);
+    painter.setBrush(fill);
+    painter.drawRoundedRect(QRectF(rect).adjusted(inset, inset, -inset, -inset), radius, radius);
+    painter.restore();
+}
+
+bool Has(const QStyleOption& option, QStyle::StateFlag flag) {
+    return option.state.testFlag(flag);
+}
+
+QColor Outline(const QStyleOption& option) {
+    return Has(option, QStyle::State_Enabled) ? option.palette.color(QPalette::Mid)
+                                              : Blend(option.palette.color(QPalette::Mid),
+                                                      option.palette.color(QPalette::Window), 0.5);
+}
+
+/// What a person can press: raised a little by the pointer, lowered by the press.
+QColor PressableFill(const QStyleOption& option) {
+    const QColor button = option.palette.color(QPalette::Button);
+    if (!Has(option, QStyle::State_Enabled)) {
+        return Blend(button, option.palette.color(QPalette::Window), 0.6);
+    }
+    if (Has(option, QStyle::State_Sunken) || Has(option, QStyle::State_On)) {
+        return Blend(button, option.palette.color(QPalette::Mid), 0.45);
+    }
+    return Has(option, QStyle::State_MouseOver)
+               ? Blend(button, option.palette.color(QPalette::Highlight), 0.5)
+               : button;
+}
+
+QPen FocusPen(const QStyleOption& option) {
+    const QColor colour = IsDark(option.palette) ? accent.lighter(160) : accent;
+    return {colour, 1.6};
+}
+
+void DrawPressable(QPainter& painter, const QStyleOption& option, bool focused) {
+    DrawSurface(painter, option.rect, PressableFill(option),
+                focused ? FocusPen(option) : QPen(Outline(option), 1));
+}
+
+void DrawField(QPainter& painter, const QStyleOption& option, const QColor& fill, double radius) {
+    const bool focused = Has(option, QStyle::State_HasFocus);
+    DrawSurface(painter, option.rect, fill, focused ? FocusPen(option) : QPen(Outline(option), 1),
+                radius);
+}
+
+void DrawCheckMark(QPainter& painter, const QRect& box) {
+    const QTransform unit(box.width() / 14.0, 0, 0, box.height() / 14.0, box.x(), box.y());
+    QPainterPath mark({3.2, 7.4});
+    mark.lineTo(6, 10.2);
+    mark.lineTo(11, 4.4);
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(Qt::white, box.width() / 7.5, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.drawPath(unit.map(mark));
+    painter.restore();
+}
+
+void DrawCheckBox(QPainter& painter, const QStyleOption& option) {
+    const bool checked = Has(option, QStyle::State_On);
+    const QColor base = option.palette.color(QPalette::Base);
+    QColor fill = checked ? accent : base;
+    if (!Has(option, QStyle::State_Enabled)) {
+        fill = Blend(fill, option.palette.color(QPalette::Window), 0.6);
+    } else if (Has(option, QStyle::State_Sunken)) {
+        fill = Blend(fill, option.palette.color(QPalette::Mid), 0.45);
+    } else if (Has(option, QStyle::State_MouseOver)) {
+        fill = Blend(fill, option.palette.color(QPalette::Highlight), checked ? 0.15 : 0.5);
+    }
+    const QColor outline = checked ? accent.darker(130) : option.palette.color(QPalette::Dark);
+    DrawSurface(painter, option.rect, fill, QPen(outline, 1), 3);
+    if (checked) {
+        DrawCheckMark(painter, option.rect);
+    }
+}
+
+void DrawArrow(QPainter& painter, const QRect& field, const QStyleOption& option) {
+    const double size = field.height() / 3.4;
+    const QPointF middle = QRectF(field).center();
+    const QPointF tip(middle.x(), middle.y() + size / 4);
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(option.palette.color(QPalette::ButtonText), 1.4, Qt::SolidLine, Qt::FlatCap,
+                        Qt::MiterJoin));
+    painter.drawPolyline(
+        QPolygonF{tip - QPointF(size / 2, size / 2), tip, tip + QPointF(size / 2, -size / 2)});
+    painter.restore();
+}
+
+/// The outline starts in the middle of the caption and is broken by it.
+void DrawGroup(QPainter& painter, const QStyleOptionGroupBox& group) {
+    const int textHeight = group.fontMetrics.height();
+    const int textWidth = group.fontMetrics.horizontalAdvance(group.text);
+    const QRect text(group.rect.x() + textHeight, group.rect.y(), textWidth, textHeight);
+    painter.save();
+    if (!group.text.isEmpty()) {
+        const int gap = textHeight / 3;
+        painter.setClipRegion(QRegion(group.rect).subtracted(text.adjusted(-gap, 0, gap, 0)));
+    }
+    DrawSurface(painter, group.rect.adjusted(0, textHeight / 2, 0, 0), Qt::transparent,
+                QPen(group.palette.color(QPalette::Mid), 1), roundness + 1);
+    painter.restore();
+    painter.setPen(group.palette.color(QPalette::WindowText));
+    painter.drawText(text, Qt::AlignLeft | Qt::AlignVCenter, group.text);
+}
+
+}  // namespace
+
+void Style::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                          const QWidget* widget) const {
+    const bool inCombo = widget != nullptr && qobject_cast<QComboBox*>(widget->parentWidget());
+    if (element == PE_PanelButtonCommand) {
+        const bool isDefault = Has(*option, State_Enabled) &&
+                               qstyleoption_cast<const QStyleOptionButton*>(option) != nullptr &&
+                               static_cast<const QStyleOptionButton*>(option)->features.testFlag(
+                                   QStyleOptionButton::DefaultButton);
+        const bool keyFocus =
+            Has(*option, State_HasFocus) && Has(*option, State_KeyboardFocusChange);
+        DrawPressable(*painter, *option, isDefault || keyFocus);
+    } else if (element == PE_IndicatorCheckBox) {
+        DrawCheckBox(*painter, *option);
+    } else if (element == PE_PanelLineEdit && !inCombo) {
+        DrawField(*painter, *option, option->palette.color(QPalette::Base), roundness);
+    } else if (element == PE_Frame && !inCombo) {
+        // The content behind has square corners.
+        DrawField(*painter, *option, Qt::transparent, 1.5);
+    } else if (element != PE_PanelLineEdit) {
+        QProxyStyle::drawPrimitive(element, option, painter, widget);
+    }
+}
+
+void Style::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
+                               QPainter* painter, const QWidget* widget) const {
+    const auto* combo = qstyleoption_cast<const QStyleOptionComboBox*>(option);
+    const auto* group = qstyleoption_cast<const QStyleOptionGroupBox*>(option);
+    if (control == CC_ComboBox && combo != nullptr) {
+        const bool focused = Has(*option, State_HasFocus) &&
+                             (combo->editable || Has(*option, State_KeyboardFocusChange));
+        QStyleOptionComboBox field = *combo;
+        if (combo->editable) {
+            field.palette.setColor(QPalette::Button, combo->palette.color(QPalette::Base));
+            field.state &= ~State_Sunken;
+        }
+        field.state &= ~State_On;
+        DrawPressable(*painter, field, focused);
+        DrawArrow(*painter, subControlRect(control, option, SC_ComboBoxArrow, widget), *option);
+    } else if (control == CC_GroupBox && group != nullptr) {
+        DrawGroup(*painter, *group);
+    } else {
+        QProxyStyle::drawComplexControl(control, option, painter, widget);
+    }
+}
+
+QRect Style::subControlRect(ComplexControl control, const QStyleOptionComplex* option,
+                            SubControl part, const QWidget* widget) const {
+    if (control == CC_GroupBox) {
+        return option->rect;  // nothing is laid out in it, so its bold font is not measured
+    }
+    const QRect rect = QProxyStyle::subControlRect(control, option, part, widget);
+    const bool isText = control == CC_ComboBox && part == SC_ComboBoxEditField;
+    return isText ? rect.adjusted(textInset, 0, 0, 0) : rect;
+}
+
+int Style::pixelMetric(PixelMetric metric, const QStyleOption* option,
+                       const QWidget* widget) const {
+    switch (metric) {
+        case PM_ButtonShiftHorizontal:
+        case PM_ButtonShiftVertical:
+            return 0;
+        case PM_FocusFrameHMargin:  // beside the text of rows
+            return 6;
+        case PM_CheckBoxLabelSpacing:
+        case PM_HeaderMargin:
+            return 8;
+        default:
+            return QProxyStyle::pixelMetric(metric, option, widget);
+    }
+}
+
+int Style::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                     QStyleHintReturn* returned) const {
+    switch (hint) {
+        case SH_ComboBox_Popup:  // the open list stands below its field
+        case SH_DialogButtonBox_ButtonsHaveIcons:
+            return 0;
+        default:
+            return QProxyStyle::styleHint(hint, option, widget, returned);
+    }
+}
+
+}  // namespace desktop

@@ -1,0 +1,43 @@
+#include <QLineEdit>
+#include <QSignalBlocker>
+
+#include "toolkit/qt/controls.h"
+#include "toolkit/qt/text.h"
+
+namespace desktop {
+namespace {
+
+/// The control keeps its exact text until the user changes what is shown of it.
+class TextBoxWidget final : public QLineEdit, public NativeControl {
+  public:
+    TextBoxWidget(toolkit::TextBox& box, QWidget& parent) : QLineEdit(&parent), box_(box) {
+        setTextMargins(4, 0, 4, 0);
+        Apply(Property::Text, -1);
+        connect(this, &QLineEdit::textChanged, this,
+                [this](const QString& typed) { box_.UserTypes(Encode(typed)); });
+    }
+
+    QWidget& Widget() override { return *this; }
+
+    void Apply(Property property, int) override {
+        if (property != Property::Text) {
+            return;
+        }
+        const QString shown = box_.Has(toolkit::IsPath) ? Shown(box_.Text()) : Decode(box_.Text());
+        if (shown != text()) {
+            const QSignalBlocker silence(this);
+            setText(shown);
+        }
+    }
+
+  private:
+    toolkit::TextBox& box_;
+};
+
+}  // namespace
+
+NativeControl* MakeTextBox(toolkit::TextBox& box, QWidget& parent) {
+    return new TextBoxWidget(box, parent);
+}
+
+}  // namespace desktop

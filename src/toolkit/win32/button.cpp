@@ -1,0 +1,59 @@
+// BUTTON: a push button with a caption or an icon.
+#include "platform/win32/text.h"
+#include "toolkit/win32/controls.h"
+#include "toolkit/win32/native_window.h"
+#include "toolkit/win32/pictures.h"
+
+namespace desktop {
+namespace {
+
+class NativeButton : public NativeControl {
+  public:
+    NativeButton(NativeWindow& parent, toolkit::Button& button)
+        : NativeControl(parent, button, {WC_BUTTONW, StyleOf(button)}), button_(button) {}
+
+    bool IsPushButton() const override { return true; }
+
+  protected:
+    void OnLaid() override;
+    void OnCommand(WORD code) override;
+    std::wstring CaptionText() const override;
+
+  private:
+    static DWORD StyleOf(const toolkit::Button& button) {
+        const DWORD kind = button.Has(toolkit::Default) ? BS_DEFPUSHBUTTON : BS_PUSHBUTTON;
+        return kind | (button.GetKind() == toolkit::Kind::PictureButton ? BS_ICON : 0);
+    }
+
+    toolkit::Button& button_;
+    OwnedIcon icon_;
+};
+
+void NativeButton::OnLaid() {
+    if (button_.GetKind() == toolkit::Kind::PictureButton) {
+        constexpr int Size = 16;
+        OwnedIcon icon = LoadPicture(button_.Spec().picture, Sizes().Scaled(Size));
+        Send(BM_SETIMAGE, IMAGE_ICON, reinterpret_cast<LPARAM>(icon.get()));
+        icon_ = std::move(icon);
+    }
+}
+
+void NativeButton::OnCommand(WORD code) {
+    if (code == BN_CLICKED) {
+        button_.UserClicks();
+    }
+}
+
+std::wstring NativeButton::CaptionText() const {
+    // Under a picture the text is not seen but spoken.
+    return button_.Caption().empty() ? platform::Wide(button_.Spec().spoken)
+                                     : WithoutMnemonics(button_.Caption());
+}
+
+}  // namespace
+
+std::unique_ptr<NativeControl> MakeButton(NativeWindow& parent, toolkit::Button& button) {
+    return std::make_unique<NativeButton>(parent, button);
+}
+
+}  // namespace desktop

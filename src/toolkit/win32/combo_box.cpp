@@ -1,0 +1,128 @@
+// COMBOBOX: a list that drops down, without and with an edit field.
+#include "platform/win32/text.h"
+#include "toolkit/win32/controls.h"
+
+namespace desktop {
+namespace {
+
+class NativeCombo : public NativeControl {
+  public:
+    NativeCombo(NativeWindow& parent, toolkit::ItemControl& list, DWORD style)
+        : NativeControl(parent, list, {WC_COMBOBOXW, style | CBS_HASSTRINGS | WS_VSCROLL}),
+          list_(list) {}
+
+  protected:
+    void OnCommand(WORD code) override;
+    void OnDraw(Property property, int row) override;
+    void OnCreated() override;
+    void OnLaid() override;
+    RECT Place() const override;
+
+  private:
+    toolkit::ItemControl& list_;
+};
+
+void NativeCombo::OnCommand(WORD code) {
+    // A list that drops down selects the row of the text in the field without a word: choosing that
+    // row is no change to Windows.
+    if (code == CBN_SELCHANGE || code == CBN_SELENDOK) {
+        const auto row = static_cast<int>(Send(CB_GETCURSEL));
+        if (row != list_.ListIndex()) {
+            list_.UserSelects(row);
+        }
+    }
+}
+
+void NativeCombo::OnDraw(Property property, int row) {
+    switch (property) {
+        case Property::Caption:  // for this control the text of its edit field
+            break;
+        case Property::ItemAdded:
+            SendText(CB_INSERTSTRING, static_cast<WPARAM>(row), list_.List(row));
+            break;
+        case Property::ItemRemoved:
+            Send(CB_DELETESTRING, static_cast<WPARAM>(row));
+            break;
+        case Property::ItemsCleared:
+            Send(CB_RESETCONTENT);
+            break;
+        case Property::Selection:
+            Send(CB_SETCURSEL, static_cast<WPARAM>(list_.ListIndex()));
+            break;
+        default:
+            NativeControl::OnDraw(property, row);
+    }
+}
+
+void NativeCombo::OnCreated() {
+    Send(WM_SETREDRAW, FALSE);  // else its scroll bar follows each row
+    for (int row = 0; row < list_.ListCount(); ++row) {
+        OnDraw(Property::ItemAdded, row);
+    }
+    Send(WM_SETREDRAW, TRUE);
+    if (list_.ListIndex() >= 0) {
+        OnDraw(Property::Selection, -1);
+    }
+}
+
+RECT NativeCombo::Place() const {
+    // The height of a combo box is that with its list; closed, its font makes it as high as it is.
+    RECT place = InMiddle(NativeControl::Place(), Sizes().FieldHeight());
+    constexpr int RowsShown = 12;
+    place.bottom += RowsShown * Sizes().FieldHeight();
+    return place;
+}
+
+void NativeCombo::OnLaid() {
+    RECT closed = {};
+    ::GetWindowRect(Handle(), &closed);
+    const int height = static_cast<int>(closed.bottom - closed.top);
+    if (height != Sizes().FieldHeight()) {
+        const RECT place = InMiddle(NativeControl::Place(), height);
+        ::SetWindowPos(Handle(), nullptr, place.left, place.top, 0, 0,
+                       SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+    }
+}
+
+class NativeEditCombo : public NativeCombo {
+  public:
+    NativeEditCombo(NativeWindow& parent, toolkit::ComboBox& box)
+        : NativeCombo(parent, box, CBS_DROPDOWN | CBS_AUTOHSCROLL), box_(box) {}
+
+  protected:
+    void OnCommand(WORD code) override {
+        if (code == CBN_EDITCHANGE) {
+            box_.UserTypes(NativeText());
+        } else {
+            NativeCombo::OnCommand(code);
+        }
+    }
+
+    void OnDraw(Property property, int row) override {
+        if (property == Property::Text) {
+            ::SetWindowTextW(Handle(), platform::Wide(box_.Text()).c_str());
+        } else {
+            NativeCombo::OnDraw(property, row);
+        }
+    }
+
+    void OnCreated() override {
+        NativeCombo::OnCreated();
+        OnDraw(Property::Text, -1);
+    }
+
+  private:
+    toolkit::ComboBox& box_;
+};
+
+}  // namespace
+
+std::unique_ptr<NativeControl> MakeDropDownList(NativeWindow& parent, toolkit::DropDownList& list) {
+    return std::make_unique<NativeCombo>(parent, list, CBS_DROPDOWNLIST);
+}
+
+std::unique_ptr<NativeControl> MakeComboBox(NativeWindow& parent, toolkit::ComboBox& box) {
+    return std::make_unique<NativeEditCombo>(parent, box);
+}
+
+}  // namespace desktop

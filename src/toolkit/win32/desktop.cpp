@@ -1,0 +1,101 @@
+#include "toolkit/desktop.h"
+
+#include "toolkit/lists.h"
+#include "toolkit/win32/event_loop.h"
+#include "toolkit/win32/native_windows.h"
+
+namespace desktop {
+
+void StartDesktop(int& /*argumentCount*/, char** /*arguments*/) {
+    const INITCOMMONCONTROLSEX classes = {
+        sizeof classes, ICC_STANDARD_CLASSES | ICC_LISTVIEW_CLASSES | ICC_BAR_CLASSES};
+    ::InitCommonControlsEx(&classes);
+    NativeWindow::RegisterWindowClass();
+}
+
+void LoadWindow(toolkit::Window& window) {
+    Register(window);
+}
+
+void UnloadWindow(toolkit::Window& window) {
+    Unregister(window);
+}
+
+void ShowWindow(toolkit::Window& window) {
+    if (NativeWindow* native = EnsureNative(window)) {
+        native->Centre();
+        PutOnTop(*native);
+        ::ShowWindow(native->Handle(), SW_SHOWNORMAL);
+        ::UpdateWindow(native->Handle());
+    }
+}
+
+void HideWindow(toolkit::Window& window) {
+    if (NativeWindow* native = FindNative(window)) {
+        TakeOff(*native);
+        // Before the window goes: Windows gives the focus to one that takes input.
+        if (const HWND owner = ::GetWindow(native->Handle(), GW_OWNER)) {
+            ::EnableWindow(owner, TRUE);
+        }
+        ::ShowWindow(native->Handle(), SW_HIDE);
+    }
+}
+
+void RunModal(toolkit::Window& window) {
+    NativeWindow* native = EnsureNative(window);
+    if (native == nullptr) {
+        return;
+    }
+    const HWND owner = Topmost();
+    ::SetWindowLongPtrW(native->Handle(), GWLP_HWNDPARENT, reinterpret_cast<LONG_PTR>(owner));
+    native->Centre();
+    native->ForgetFocus();
+    ::EnableWindow(owner, FALSE);
+    PutOnTop(*native);
+    ::ShowWindow(native->Handle(), SW_SHOWNORMAL);
+    RunMessages([&window] { return window.Visible(); });
+}
+
+void RepaintWindow(toolkit::Window& window) {
+    if (const NativeWindow* native = FindNative(window)) {
+        ::RedrawWindow(native->Handle(), nullptr, nullptr,
+                       RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW | RDW_ALLCHILDREN);
+    }
+}
+
+void CaptionChanged(toolkit::Window& window) {
+    if (const NativeWindow* native = FindNative(window)) {
+        native->CaptionChanged();
+    }
+}
+
+void PropertyChanged(toolkit::Control& control, Property property, int row) {
+    if (NativeControl* native = FindNative(control)) {
+        native->Apply(property, row);
+    }
+}
+
+std::uint32_t ItemFromPoint(const toolkit::ListBox& list, int x, int y) {
+    constexpr std::uint32_t Outside = 0x10000;
+    const NativeControl* native = FindNative(list);
+    if (native == nullptr) {
+        return Outside;
+    }
+    const auto answer = static_cast<std::uint32_t>(
+        ::SendMessageA(native->Handle(), LB_ITEMFROMPOINT, 0, MAKELPARAM(x, y)));
+    // For a point below the last row Windows names that row; the row itself knows better.
+    RECT place = {};
+    ::SendMessageW(native->Handle(), LB_GETITEMRECT, LOWORD(answer),
+                   reinterpret_cast<LPARAM>(&place));
+    return y < place.bottom ? answer : answer | Outside;
+}
+
+double UnitsPerPixelX() {
+    return 1.0;
+}
+
+double UnitsPerPixelY() {
+    return 1.0;
+}
+
+}  // namespace desktop

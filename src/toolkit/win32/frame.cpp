@@ -1,0 +1,30 @@
+// What groups other controls: BUTTON as a group box, STATIC as a line.
+#include "toolkit/win32/controls.h"
+
+namespace desktop {
+namespace {
+
+class NativeFrame : public NativeControl {
+  public:
+    NativeFrame(NativeWindow& parent, toolkit::Control& frame)
+        // It draws its edge alone; being transparent, it leaves the rest to the window beneath.
+        : NativeControl(
+              parent, frame,
+              {WC_BUTTONW, BS_GROUPBOX | WS_CLIPSIBLINGS, WS_EX_TRANSPARENT, Face::Bold}) {}
+
+  protected:
+    std::wstring CaptionText() const override { return WithoutMnemonics(Shown().Caption()); }
+};
+
+}  // namespace
+
+std::unique_ptr<NativeControl> MakeFrame(NativeWindow& parent, toolkit::Control& frame) {
+    return std::make_unique<NativeFrame>(parent, frame);
+}
+
+std::unique_ptr<NativeControl> MakeDivider(NativeWindow& parent, toolkit::Control& divider) {
+    return std::make_unique<NativeControl>(parent, divider,
+                                           NativeClass{WC_STATICW, SS_ETCHEDHORZ | SS_NOTIFY});
+}
+
+}  // namespace desktop

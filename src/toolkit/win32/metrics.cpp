@@ -1,0 +1,88 @@
+#include "toolkit/win32/metrics.h"
+
+#include "platform/win32/text.h"
+
+namespace desktop {
+namespace {
+
+OwnedFont MakeFont(LOGFONTW description, int percent, bool bold, bool underlined) {
+    constexpr int Whole = 100;
+    description.lfHeight = ::MulDiv(description.lfHeight, percent, Whole);
+    if (bold) {
+        description.lfWeight = FW_BOLD;
+    }
+    description.lfUnderline = underlined;
+    return OwnedFont(::CreateFontIndirectW(&description));
+}
+
+}  // namespace
+
+int FirstScreensDensity() {
+    const WindowContext screen(nullptr);
+    return ::GetDeviceCaps(screen.Get(), LOGPIXELSX);
+}
+
+int DensityOf(HWND window) {
+    // Only Windows 10 and later has it.
+    using Service = UINT(WINAPI*)(HWND);
+    static const auto service = reinterpret_cast<Service>(reinterpret_cast<void*>(
+        ::GetProcAddress(::GetModuleHandleW(L"user32"), "GetDpiForWindow")));
+    const int density = service != nullptr ? static_cast<int>(service(window)) : 0;
+    return density > 0 ? density : FirstScreensDensity();
+}
+
+Metrics::Metrics(int density) : density_(density) {
+    MakeFonts();
+    Measure();
+}
+
+void Metrics::MakeFonts() {
+    NONCLIENTMETRICSW system = {};
+    system.cbSize = sizeof system;
+    ::SystemParametersInfoW(SPI_GETNONCLIENTMETRICS, system.cbSize, &system, 0);
+    LOGFONTW body = system.lfMessageFont;
+    body.lfHeight = ::MulDiv(body.lfHeight, density_, FirstScreensDensity());
+    const struct {
+        Face face;
+        int percent;
+        bool bold;
+        bool underlined;
+    } rows[] = {
+        {Face::Body, 100, false, false}, {Face::Bold, 100, true, false},
+        {Face::Title, 220, true, false}, {Face::Small, 92, false, false},
+        {Face::Link, 100, false, true},
+    };
+    for (const auto& row : rows) {
+        fonts_[static_cast<std::size_t>(row.face)] =
+            MakeFont(body, row.percent, row.bold, row.underlined);
+    }
+}
+
+void Metrics::Measure() {
+    const std::wstring_view letters = L"ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz";
+    const int count = static_cast<int>(letters.size());
+    const WindowContext screen(nullptr);
+    const Chosen font(screen.Get(), Font(Face::Body));
+    SIZE size = {};
+    ::GetTextExtentPoint32W(screen.Get(), letters.data(), count, &size);
+    characterWidth_ = (size.cx + count / 2) / count;
+    characterHeight_ = size.cy;
+}
+
+int Metrics::TextWidth(Face face, const std::string& text) const {
+    const std::wstring wide = platform::Wide(text);
+    const WindowContext screen(nullptr);
+    const Chosen font(screen.Get(), Font(face));
+    SIZE size = {};
+    ::GetTextExtentPoint32W(screen.Get(), wide.data(), static_cast<int>(wide.size()), &size);
+    return size.cx;
+}
+
+RECT Metrics::Pixels(const toolkit::Place& place) const {
+    const auto across = [this](int units) { return ::MulDiv(units, characterWidth_, 4); };
+    const auto down = [this](int units) { return ::MulDiv(units, characterHeight_, 8); };
+    return {across(place.x), down(place.y), across(place.x + place.width),
+            down(place.y + place.height)};
+}
+
+}  // namespace desktop

@@ -1,0 +1,147 @@
+#include "toolkit/win32/native_window.h"
+
+#include "platform/win32/text.h"
+#include "toolkit/win32/control_ids.h"
+#include "toolkit/win32/controls.h"
+#include "toolkit/win32/pictures.h"
+
+namespace desktop {
+namespace {
+
+RECT Inside(const toolkit::Window& window, const Metrics& metrics) {
+    return metrics.Pixels({0, 0, window.Spec().width, window.Spec().height});
+}
+
+HWND Create(const toolkit::Window& window, const Metrics& metrics) {
+    const DWORD style = window.Spec().dialog ? WS_POPUP | WS_CAPTION | WS_SYSMENU
+                                             : WS_CAPTION | WS_SYSMENU | WS_MINIMIZEBOX;
+    const DWORD extended = WS_EX_CONTROLPARENT | (window.Spec().dialog ? WS_EX_DLGMODALFRAME : 0);
+    RECT frame = Inside(window, metrics);
+    ::AdjustWindowRectEx(&frame, style, FALSE, extended);
+    return ::CreateWindowExW(extended, WindowClassName, platform::Wide(window.Caption()).c_str(),
+                             style, CW_USEDEFAULT, CW_USEDEFAULT, frame.right - frame.left,
+                             frame.bottom - frame.top, nullptr, nullptr,
+                             ::GetModuleHandleW(nullptr), nullptr);
+}
+
+/// The program's icon in a size of the system.
+HICON Icon(HINSTANCE program, int metric) {
+    const int size = ::GetSystemMetrics(metric);
+    return static_cast<HICON>(
+        ::LoadImageW(program, ProgramIcon, IMAGE_ICON, size, size, LR_SHARED));
+}
+
+}  // namespace
+
+void NativeWindow::RegisterWindowClass() {
+    WNDCLASSEXW description = {};
+    description.cbSize = sizeof description;
+    description.lpfnWndProc = Procedure;
+    description.hInstance = ::GetModuleHandleW(nullptr);
+    description.hIcon = Icon(description.hInstance, SM_CXICON);
+    description.hIconSm = Icon(description.hInstance, SM_CXSMICON);
+    description.hCursor = ::LoadCursorW(nullptr, IDC_ARROW);
+    description.hbrBackground = reinterpret_cast<HBRUSH>(INT_PTR{COLOR_3DFACE + 1});
+    description.lpszClassName = WindowClassName;
+    ::RegisterClassExW(&description);
+}
+
+NativeWindow::NativeWindow(toolkit::Window& window)
+    : window_(window), metrics_(FirstScreensDensity()), handle_(Create(window, metrics_)) {
+    if (const int density = DensityOf(handle_); density != metrics_.Density()) {
+        metrics_ = Metrics(density);
+    }
+    Size();
+    MakeControls();
+    ::SetWindowLongPtrW(handle_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
+}
+
+NativeWindow::~NativeWindow() {
+    ::SetWindowLongPtrW(handle_, GWLP_USERDATA, 0);
+    controls_.clear();
+    ::DestroyWindow(handle_);
+}
+
+void NativeWindow::MakeControls() {
+    for (toolkit::Control* control : InStackingOrder(window_)) {
+        controls_.push_back(MakeControl(*this, *control));
+        controls_.back()->Create();
+    }
+}
+
+void NativeWindow::Size() {
+    const RECT wanted = Inside(window_, metrics_);
+    RECT got = {};
+    ::GetClientRect(handle_, &got);
+    if (got.right != wanted.right || got.bottom != wanted.bottom) {
+        RECT frame = {};
+        ::GetWindowRect(handle_, &frame);
+        ::SetWindowPos(handle_, nullptr, 0, 0, frame.right - frame.left + wanted.right - got.right,
+                       frame.bottom - frame.top + wanted.bottom - got.bottom,
+                       SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+    }
+    band_.Lay(window_, metrics_);
+}
+
+NativeControl* NativeWindow::Find(const toolkit::Control& control) const {
+    for (const auto& native : controls_) {
+        if (&native->Shown() == &control) {
+            return native.get();
+        }
+    }
+    return nullptr;
+}
+
+NativeControl* NativeWindow::FromHandle(HWND handle) const {
+    for (const auto& native : controls_) {
+        if (native->Handle() == handle) {
+            return native.get();
+        }
+    }
+    return nullptr;
+}
+
+NativeControl* NativeWindow::WithFlag(toolkit::Flag flag) const {
+    for (const auto& native : controls_) {
+        if (native->Shown().Has(flag)) {
+            return native.get();
+        }
+    }
+    return nullptr;
+}
+
+void NativeWindow::CaptionChanged() const {
+    ::SetWindowTextW(handle_, platform::Wide(window_.Caption()).c_str());
+}
+
+void NativeWindow::Centre() const {
+    const HWND owner = ::GetWindow(handle_, GW_OWNER);
+    MONITORINFO screen = {};
+    screen.cbSize = sizeof screen;
+    ::GetMonitorInfoW(
+        ::MonitorFromWindow(owner != nullptr ? owner : handle_, MONITOR_DEFAULTTOPRIMARY), &screen);
+    RECT frame = {};
+    ::GetWindowRect(handle_, &frame);
+    const RECT& work = screen.rcWork;
+    ::SetWindowPos(handle_, nullptr, (work.left + work.right - frame.right + frame.left) / 2,
+                   (work.top + work.bottom - frame.bottom + frame.top) / 2, 0, 0,
+                   SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+void NativeWindow::Focus(HWND control) {
+    focus_ = control;
+    if (::GetActiveWindow() == handle_) {
+        RestoreFocus();
+    }
+}
+
+void NativeWindow::RestoreFocus() {
+    const bool usable = focus_ != nullptr && ::IsWindowVisible(focus_) && ::IsWindowEnabled(focus_);
+    const HWND target = usable ? focus_ : ::GetNextDlgTabItem(handle_, nullptr, FALSE);
+    ::SetFocus(target);
+    if ((::SendMessageW(target, WM_GETDLGCODE, 0, 0) & DLGC_HASSETSEL) != 0 && !usable) {
+        ::SendMessageW(target, EM_SETSEL, 0, -1);
+    }
+}
+
+}  // namespace desktop

@@ -1,0 +1,159 @@
+// What a window does with its messages. Those of its controls go to the control that they tell of.
+#include "toolkit/win32/native_window.h"
+
+namespace desktop {
+
+struct NativeWindow::Route {
+    UINT message;
+    LRESULT (NativeWindow::*answer)(WPARAM wParam, LPARAM lParam);
+};
+
+const NativeWindow::Route NativeWindow::routes[] = {
+    {WM_COMMAND, &NativeWindow::OnCommand},
+    {WM_NOTIFY, &NativeWindow::OnNotify},
+    {WM_DRAWITEM, &NativeWindow::OnDrawItem},
+    {WM_CTLCOLORSTATIC, &NativeWindow::OnStaticColours},
+    {WM_CLOSE, &NativeWindow::OnClose},
+    {WM_ENDSESSION, &NativeWindow::OnEndSession},
+    {WM_ACTIVATE, &NativeWindow::OnActivate},
+    {WM_SETFOCUS, &NativeWindow::OnSetFocus},
+    {DM_GETDEFID, &NativeWindow::OnDefaultButton},
+    {WM_SETCURSOR, &NativeWindow::OnSetCursor},
+    {WM_MOUSEMOVE, &NativeWindow::OnPointer},
+    {WM_DPICHANGED, &NativeWindow::OnDensity},
+};
+
+LRESULT CALLBACK NativeWindow::Procedure(HWND handle, UINT message, WPARAM wParam, LPARAM lParam) {
+    NativeWindow* self =
+        reinterpret_cast<NativeWindow*>(::GetWindowLongPtrW(handle, GWLP_USERDATA));
+    return self != nullptr ? self->Answer(message, wParam, lParam)
+                           : ::DefWindowProcW(handle, message, wParam, lParam);
+}
+
+LRESULT NativeWindow::Answer(UINT message, WPARAM wParam, LPARAM lParam) {
+    for (const Route& route : routes) {
+        if (route.message == message) {
+            return (this->*route.answer)(wParam, lParam);
+        }
+    }
+    return Default(message, wParam, lParam);
+}
+
+LRESULT NativeWindow::Default(UINT message, WPARAM wParam, LPARAM lParam) const {
+    return ::DefWindowProcW(handle_, message, wParam, lParam);
+}
+
+LRESULT NativeWindow::OnCommand(WPARAM wParam, LPARAM lParam) {
+    if (NativeControl* control = FromHandle(reinterpret_cast<HWND>(lParam))) {
+        control->Command(HIWORD(wParam));
+    } else if (LOWORD(wParam) == IDCANCEL) {
+        PressCancel();  // the Escape key
+    }
+    return 0;
+}
+
+void NativeWindow::PressCancel() {
+    if (NativeControl* button = WithFlag(toolkit::Cancel)) {
+        button->Command(BN_CLICKED);
+    } else if (window_.Spec().dialog) {
+        window_.UserCloses();
+    }
+}
+
+LRESULT NativeWindow::OnNotify(WPARAM wParam, LPARAM lParam) {
+    const auto& notice = *reinterpret_cast<const NMHDR*>(lParam);
+    NativeControl* control = FromHandle(notice.hwndFrom);
+    return control != nullptr ? control->Notify(notice) : Default(WM_NOTIFY, wParam, lParam);
+}
+
+LRESULT NativeWindow::OnDrawItem(WPARAM /*wParam*/, LPARAM lParam) {
+    const auto& item = *reinterpret_cast<const DRAWITEMSTRUCT*>(lParam);
+    if (NativeControl* control = FromHandle(item.hwndItem)) {
+        control->DrawItem(item);
+    }
+    return TRUE;
+}
+
+LRESULT NativeWindow::OnStaticColours(WPARAM wParam, LPARAM lParam) {
+    const LRESULT standard = Default(WM_CTLCOLORSTATIC, wParam, lParam);
+    NativeControl* control = FromHandle(reinterpret_cast<HWND>(lParam));
+    const HBRUSH brush =
+        control != nullptr ? control->Colours(reinterpret_cast<HDC>(wParam)) : nullptr;
+    return brush != nullptr ? reinterpret_cast<LRESULT>(brush) : standard;
+}
+
+LRESULT NativeWindow::OnClose(WPARAM /*wParam*/, LPARAM /*lParam*/) {
+    window_.UserCloses();
+    return 0;
+}
+
+LRESULT NativeWindow::OnEndSession(WPARAM wParam, LPARAM /*lParam*/) {
+    // The process is gone when this returns: the last chance of the program to save.
+    if (wParam != 0 && !window_.Spec().dialog) {
+        window_.UserCloses();
+    }
+    return 0;
+}
+
+LRESULT NativeWindow::OnActivate(WPARAM wParam, LPARAM lParam) {
+    if (LOWORD(wParam) != WA_INACTIVE) {
+        return Default(WM_ACTIVATE, wParam, lParam);
+    }
+    const HWND focus = ::GetFocus();
+    if (::IsChild(handle_, focus)) {
+        focus_ = focus;
+    }
+    return 0;
+}
+
+LRESULT NativeWindow::OnSetFocus(WPARAM /*wParam*/, LPARAM /*lParam*/) {
+    RestoreFocus();
+    return 0;
+}
+
+LRESULT NativeWindow::OnDefaultButton(WPARAM /*wParam*/, LPARAM /*lParam*/) {
+    NativeControl* button = FromHandle(::GetFocus());
+    if (button == nullptr || !button->IsPushButton()) {
+        button = WithFlag(toolkit::Default);
+    }
+    return button != nullptr ? MAKELRESULT(::GetDlgCtrlID(button->Handle()), DC_HASDEFID) : 0;
+}
+
+LRESULT NativeWindow::OnSetCursor(WPARAM wParam, LPARAM lParam) {
+    const NativeControl* control = FromHandle(reinterpret_cast<HWND>(wParam));
+    const HCURSOR pointer = control != nullptr ? control->Pointer() : nullptr;
+    if (pointer == nullptr) {
+        return Default(WM_SETCURSOR, wParam, lParam);
+    }
+    ::SetCursor(pointer);
+    return TRUE;
+}
+
+LRESULT NativeWindow::OnPointer(WPARAM wParam, LPARAM lParam) {
+    const POINT point = {static_cast<short>(LOWORD(lParam)), static_cast<short>(HIWORD(lParam))};
+    const HWND child = ::ChildWindowFromPointEx(handle_, point, CWP_SKIPINVISIBLE);
+    // Windows sends us what moves over a frame, or over a control that is disabled.
+    if (NativeControl* control = FromHandle(child)) {
+        POINT inside = point;
+        ::MapWindowPoints(handle_, child, &inside, 1);
+        control->Shown().UserMovesPointer(inside.x, inside.y);
+    } else {
+        window_.UserMovesPointer();
+    }
+    return Default(WM_MOUSEMOVE, wParam, lParam);
+}
+
+LRESULT NativeWindow::OnDensity(WPARAM wParam, LPARAM lParam) {
+    const auto& place = *reinterpret_cast<const RECT*>(lParam);
+    metrics_ = Metrics(HIWORD(wParam));
+    ::SetWindowPos(handle_, nullptr, place.left, place.top, 0, 0,
+                   SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+    Size();
+    for (const auto& control : controls_) {
+        control->Lay();
+    }
+    ::InvalidateRect(handle_, nullptr, TRUE);
+    return 0;
+}
+
+}  // namespace desktop

@@ -1,0 +1,41 @@
+// EDIT: one line of text.
+#include "platform/win32/text.h"
+#include "toolkit/win32/controls.h"
+
+namespace desktop {
+namespace {
+
+class NativeTextBox : public NativeControl {
+  public:
+    NativeTextBox(NativeWindow& parent, toolkit::TextBox& box)
+        : NativeControl(parent, box, {WC_EDITW, ES_AUTOHSCROLL, WS_EX_CLIENTEDGE}), box_(box) {}
+
+  protected:
+    void OnCommand(WORD code) override {
+        if (code == EN_CHANGE) {
+            box_.UserTypes(NativeText());
+        }
+    }
+
+    void OnDraw(Property property, int row) override {
+        NativeControl::OnDraw(property == Property::Text ? Property::Caption : property, row);
+    }
+
+    void OnCreated() override { Send(EM_SETLIMITTEXT); }  // none
+
+    // In a higher field the text would stay at the top.
+    RECT Place() const override { return InMiddle(NativeControl::Place(), Sizes().FieldHeight()); }
+
+    std::wstring CaptionText() const override { return platform::Wide(box_.Text()); }
+
+  private:
+    toolkit::TextBox& box_;
+};
+
+}  // namespace
+
+std::unique_ptr<NativeControl> MakeTextBox(NativeWindow& parent, toolkit::TextBox& box) {
+    return std::make_unique<NativeTextBox>(parent, box);
+}
+
+}  // namespace desktop
