@@ -6,6 +6,7 @@
 #include "state/records.h"
 #include "state/startup.h"
 #include "text/ascii.h"
+#include "text/file_names.h"
 #include "toolkit/dialogs.h"
 
 namespace {
@@ -63,8 +64,7 @@ void ScanEngineFiles(const std::string& directory) {
         desktop::ShowMessage(NoEngineFiles, ProgramTitle, desktop::MessageIcon::Critical);
         ShutDown();
     }
-    const std::string prefix = directory + "\\";
     for (const std::string& name : names) {
-        ReadEngineFile(prefix + name);
+        ReadEngineFile(JoinPath(directory, name));
     }
 }

@@ -1,5 +1,7 @@
 #include "state/records.h"
 
+#include "text/file_names.h"
+
 std::vector<EngineRecord> Engines;
 std::vector<GameWadRecord> GameWads;
 clsStringArray FileList;
@@ -24,7 +26,7 @@ GameWadRecord& GameWadAt(int index) {
 }
 
 std::string ProgramFile(const EngineRecord& engine) {
-    return engine.path + "\\" + engine.executable;
+    return JoinPath(engine.path, engine.executable);
 }
 
 void ResetState() {

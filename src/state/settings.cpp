@@ -5,6 +5,7 @@
 #include "platform/facts.h"
 #include "state/engine_files.h"
 #include "state/startup.h"
+#include "text/file_names.h"
 #include "toolkit/dialogs.h"
 
 namespace {
@@ -119,7 +120,7 @@ void StoreLists() {
 
 void InitialiseSettings() {
     Settings.NewConfiguration();
-    SettingsFileName = platform::ProgramDirectory() + "\\zorvane.cfg";
+    SettingsFileName = JoinPath(platform::ProgramDirectory(), "zorvane.cfg");
     for (const SettingRow& row : Rows) {
         Settings.Root()->Add(row.key, DefaultValue(row));
     }

@@ -7,6 +7,7 @@
 #include "state/engine_files.h"
 #include "state/records.h"
 #include "state/settings.h"
+#include "text/file_names.h"
 #include "toolkit/dialogs.h"
 #include "toolkit/window.h"
 
@@ -33,14 +34,14 @@ void Main() {
     shuttingDown = false;
     const std::string directory = platform::ProgramDirectory();
     InitialiseSettings();
-    ScanEngineFiles(directory + "\\engines");
+    ScanEngineFiles(JoinPath(directory, "engines"));
     if (platform::Exists(SettingsFileName)) {
         LoadSettings();
     } else {
         TellUnsaved(SaveDefaults());
     }
     settingsAreOurs = true;
-    Autodetect.LoadConfiguration(directory + "\\autodetect.cfg");
+    Autodetect.LoadConfiguration(JoinPath(directory, "autodetect.cfg"));
 
     for (toolkit::Window* window : TheApplication.windows) {
         window->Load();

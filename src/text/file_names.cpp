@@ -27,6 +27,10 @@ bool MatchesPattern(std::string_view name, std::string_view pattern) {
     return pattern.find_first_not_of('*', inPattern) == std::string_view::npos;
 }
 
+std::string JoinPath(std::string_view directory, std::string_view name) {
+    return std::string(directory).append(1, '\\').append(name);
+}
+
 bool ListedBefore(const std::string& left, const std::string& right) {
     const int order = UpperCase(left).compare(UpperCase(right));
     return order != 0 ? order < 0 : left < right;
