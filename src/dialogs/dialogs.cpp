@@ -28,16 +28,16 @@ desktop::OpenFileName MakeRecord(toolkit::Window& owner, const std::string& titl
 
 }  // namespace
 
-std::string OpenFileDialog(toolkit::Window& Owner, const std::string& Title,
-                           const std::string& Filter, const std::string& InitialFile,
-                           std::uint32_t Flags) {
-    desktop::OpenFileName record = MakeRecord(Owner, Title, Filter, InitialFile, Flags);
+std::string OpenFileDialog(toolkit::Window& owner, const std::string& title,
+                           const std::string& filter, const std::string& initialFile,
+                           std::uint32_t flags) {
+    desktop::OpenFileName record = MakeRecord(owner, title, filter, initialFile, flags);
     if (!desktop::GetOpenFileNameA(record)) {
         return {};
     }
     std::string result = TrimAtDoubleNull(record.lpstrFile);
     const std::size_t nul = result.find('\0');
-    const bool several = (Flags & desktop::OfnAllowMultiSelect) != 0 && nul != std::string::npos;
+    const bool several = (flags & desktop::OfnAllowMultiSelect) != 0 && nul != std::string::npos;
     const std::size_t end = several ? nul : result.rfind('\\');
     if (end != std::string::npos) {
         StoreSetting("lastdir", result.substr(0, end));
@@ -45,17 +45,32 @@ std::string OpenFileDialog(toolkit::Window& Owner, const std::string& Title,
     return result;
 }
 
-std::string SaveFileDialog(toolkit::Window& Owner, const std::string& Title,
-                           const std::string& Filter, const std::string& InitialFile,
-                           std::uint32_t Flags) {
-    desktop::OpenFileName record = MakeRecord(Owner, Title, Filter, InitialFile, Flags);
+std::string SaveFileDialog(toolkit::Window& owner, const std::string& title,
+                           const std::string& filter, const std::string& initialFile,
+                           std::uint32_t flags) {
+    desktop::OpenFileName record = MakeRecord(owner, title, filter, initialFile, flags);
     return desktop::GetSaveFileNameA(record) ? TrimAtDoubleNull(record.lpstrFile) : std::string();
 }
 
-std::string BrowseForFolder(toolkit::Window& Owner, const std::string& Title) {
-    return TrimAtDoubleNull(desktop::BrowseForFolderPath({&Owner, Title}));
+std::string BrowseForFolder(toolkit::Window& owner, const std::string& title) {
+    return TrimAtDoubleNull(desktop::BrowseForFolderPath({&owner, title}));
 }
 
-std::string TrimAtDoubleNull(std::string_view Text) {
-    return std::string(Text.substr(0, Text.find(std::string_view("\0\0", 2))));
+std::vector<std::string> ChosenFiles(const std::string& result) {
+    std::size_t nul = result.find('\0');
+    if (nul == std::string::npos) {
+        return result.empty() ? std::vector<std::string>() : std::vector{result};
+    }
+    const std::string folder = result.substr(0, nul) + "\\";
+    std::vector<std::string> paths;
+    while (nul != std::string::npos) {
+        const std::size_t start = nul + 1;
+        nul = result.find('\0', start);
+        paths.push_back(folder + result.substr(start, nul - start));
+    }
+    return paths;
+}
+
+std::string TrimAtDoubleNull(std::string_view text) {
+    return std::string(text.substr(0, text.find(std::string_view("\0\0", 2))));
 }

@@ -1,39 +1,46 @@
-// The three modal dialogs for files and folders, texts in and one text out. The empty text is
-// Cancel.
+// The modal dialogs for files and folders. They return the empty text on Cancel.
 //
-// A filter is display text and pattern in turn, all separated by "|", a pattern being masks
-// separated by ";": "WAD files (*.wad)|*.wad|All files (*.*)|*.*".
+// A filter consists of display texts and patterns in turn, separated by "|". A pattern consists of
+// masks separated by ";": "WAD files (*.wad)|*.wad|All files (*.*)|*.*".
 #pragma once
 
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace toolkit {
 class Window;
 }
 
-/// The flag words in use, as Windows defines their bits.
+/// Filter for WAD files.
+inline constexpr const char* WadFilter = "WAD files (*.wad)|*.wad|All files (*.*)|*.*";
+
+/// The combinations of flags in use, with the bits that Windows defines.
 inline constexpr std::uint32_t OneFileFlags = 4100;         // must exist
 inline constexpr std::uint32_t SeveralFilesFlags = 528900;  // must exist, more than one allowed
 inline constexpr std::uint32_t SaveFileFlags = 6;           // asks before overwriting
 
-/// Chooses a file to open. Gives its full path or, when the flags allow several and more than one
-/// was chosen, the folder and the bare names with single NULs between. Starts in the folder of
-/// `InitialFile` if that file exists, else in the setting `lastdir`, which follows the choice. A
-/// choice too long for the dialog's buffer counts as Cancel.
-std::string OpenFileDialog(toolkit::Window& Owner, const std::string& Title,
-                           const std::string& Filter, const std::string& InitialFile,
-                           std::uint32_t Flags);
+/// Lets the user choose a file to open. Returns its full path; if the flags allow several and more
+/// than one was chosen, the folder and the bare names, separated by NULs. Starts in the folder of
+/// `initialFile` if that file exists, otherwise in the folder of the setting `lastdir`, and sets
+/// `lastdir` to the folder of the choice. A choice too long for the dialog's buffer counts as
+/// Cancel.
+std::string OpenFileDialog(toolkit::Window& owner, const std::string& title,
+                           const std::string& filter, const std::string& initialFile,
+                           std::uint32_t flags);
 
-/// Chooses a file to write. The same, for one path, and `lastdir` stays as it is.
-std::string SaveFileDialog(toolkit::Window& Owner, const std::string& Title,
-                           const std::string& Filter, const std::string& InitialFile,
-                           std::uint32_t Flags);
+/// Lets the user choose a file to write. Returns its full path and leaves `lastdir` alone.
+std::string SaveFileDialog(toolkit::Window& owner, const std::string& title,
+                           const std::string& filter, const std::string& initialFile,
+                           std::uint32_t flags);
 
-/// Chooses a folder; `Title` is a line of instruction. Gives its path without a closing backslash,
-/// apart from a drive's root.
-std::string BrowseForFolder(toolkit::Window& Owner, const std::string& Title);
+/// Lets the user choose a folder; `title` is a line of instruction. Returns its path, without a
+/// final backslash except for the root of a drive.
+std::string BrowseForFolder(toolkit::Window& owner, const std::string& title);
 
-/// What stands before the first two NULs in a row; the whole text when there are none.
-std::string TrimAtDoubleNull(std::string_view Text);
+/// The full paths in a result of OpenFileDialog, in its order; none for the empty text.
+std::vector<std::string> ChosenFiles(const std::string& result);
+
+/// The text before the first two NULs in a row; the whole text if there are none.
+std::string TrimAtDoubleNull(std::string_view text);

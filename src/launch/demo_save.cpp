@@ -3,37 +3,8 @@
 #include "dialogs/dialogs.h"
 #include "launch/command_line.h"
 #include "platform/files.h"
-#include "state/records.h"
+#include "state/messages.h"
 #include "state/settings.h"
-#include "toolkit/dialogs.h"
-
-namespace {
-
-// clang-format off
-constexpr toolkit::ControlSpec Rows[] = {
-    {.name = "lblSaveDemo", .caption = "Save demo to...", .place = {9, 9, 220, 9},
-     .names = "txtDemoFile"},
-    {.name = "txtDemoFile", .place = {9, 21, 208, 14}, .tab = 0, .flags = toolkit::IsPath},
-    {.name = "cmdBrowse", .caption = "Browse...", .place = {222, 21, 50, 14}, .tab = 1},
-    {.name = "cmdSave", .caption = "Save", .place = {168, 45, 50, 14}, .tab = 2,
-     .flags = toolkit::Default},
-    {.name = "cmdDiscard", .caption = "Discard", .place = {222, 45, 50, 14}, .tab = 3,
-     .flags = toolkit::Cancel},
-};
-// clang-format on
-
-constexpr toolkit::WindowSpec WindowRow = {.name = "frmDemoSave",
-                                           .caption = "Save demo",
-                                           .width = 281,
-                                           .height = 68,
-                                           .dialog = true,
-                                           .rows = Rows};
-
-void Warn(const std::string& text) {
-    desktop::ShowMessage(text, ProgramTitle, desktop::MessageIcon::Exclamation);
-}
-
-}  // namespace
 
 DemoSaveWindow frmDemoSave;
 
@@ -41,7 +12,8 @@ std::string DemoFilter(const std::string& extension) {
     return "Demo files (*." + extension + ")|*." + extension + "|All files (*.*)|*.*";
 }
 
-DemoSaveWindow::DemoSaveWindow() : Window(WindowRow) {
+DemoSaveWindow::DemoSaveWindow()
+    : Window({.caption = "Save demo", .width = 281, .height = 68, .dialog = true}) {
     OnShowModal = [this] { Propose(); };
     OnCloseRequest = [this] { Hide(); };
     cmdBrowse.OnClick = [this] { Browse(); };

@@ -1,4 +1,4 @@
-// The small dialog that follows a recording.
+// The dialog shown after a recording.
 #pragma once
 
 #include <string>
@@ -6,23 +6,29 @@
 #include "toolkit/control.h"
 #include "toolkit/window.h"
 
-/// The filter of both demo dialogs for files of one extension, without a point.
+/// Filter of the demo dialogs for an extension without a dot.
 std::string DemoFilter(const std::string& extension);
 
-/// Files a recorded demo under the name that the user gives, or throws it away. The temporary file
-/// goes only when the demo has been saved, or by Discard.
+/// Copies a recorded demo to the file that the user names, or discards it. The temporary file is
+/// deleted only after the demo has been saved, or by Discard.
 class DemoSaveWindow : public toolkit::Window {
   public:
     DemoSaveWindow();
 
     std::string DemoFileName;  // the temporary file, set before the dialog is shown
-    std::string DemoExt;       // extension of the demo, without a point
+    std::string DemoExt;       // extension of the demo, without a dot
 
-    toolkit::Label lblSaveDemo{*this, "lblSaveDemo"};
-    toolkit::TextBox txtDemoFile{*this, "txtDemoFile"};
-    toolkit::Button cmdBrowse{*this, "cmdBrowse"};
-    toolkit::Button cmdSave{*this, "cmdSave"};
-    toolkit::Button cmdDiscard{*this, "cmdDiscard"};
+    // clang-format off
+    toolkit::Label lblSaveDemo{*this, {.caption = "Save demo to...", .place = {9, 9, 220, 9}}};
+    toolkit::TextBox txtDemoFile{*this, {
+        .place = {9, 21, 208, 14}, .tab = 0, .flags = toolkit::IsPath, .label = &lblSaveDemo}};
+    toolkit::Button cmdBrowse{*this, {
+        .caption = "Browse...", .place = {222, 21, 50, 14}, .tab = 1}};
+    toolkit::Button cmdSave{*this, {
+        .caption = "Save", .place = {168, 45, 50, 14}, .tab = 2, .flags = toolkit::Default}};
+    toolkit::Button cmdDiscard{*this, {
+        .caption = "Discard", .place = {222, 45, 50, 14}, .tab = 3, .flags = toolkit::Cancel}};
+    // clang-format on
 
   private:
     void Propose();

@@ -1,4 +1,4 @@
-// The list of additional files: its content, its menu and the four controls that follow its
+// The list of additional files: its content, its menu, and the controls that depend on its
 // selection.
 #include <cmath>
 #include <utility>
@@ -15,8 +15,6 @@
 namespace {
 
 constexpr const char* AddTitle = "Please select the WAD file you want to add";
-constexpr const char* WadFilter = "WAD files (*.wad)|*.wad|All files (*.*)|*.*";
-constexpr int RightButton = 2;
 
 bool IsWad(const std::string& path) {
     return EndsWithIgnoringCase(path, ".wad");
@@ -30,9 +28,10 @@ void MainWindow::ConnectFileList() {
     cmdClear.OnClick = [this] { ClearFiles(); };
     lstFiles.OnClick = [this] { UpdateFileControls(); };
     lstFiles.OnDoubleClick = [this] { FileListDoubleClicked(); };
-    lstFiles.OnButtonReleased = [this](int button, double x, double y) {
+    lstFiles.OnButtonReleased = [this](toolkit::MouseButton button, double x, double y) {
         FileListReleased(button, x, y);
     };
+    lstFiles.OnPointerMoved = [this](double x, double y) { PointerOverFiles(x, y); };
     cmdGetMapLump.OnClick = [this] { UseFirstMap(); };
     itmUseFirstMap.OnClick = [this] { UseFirstMap(); };
     cmdShowTextFile.OnClick = [this] { ViewText(); };
@@ -80,19 +79,8 @@ void MainWindow::AddToFileList(std::string path) {
 void MainWindow::AddFiles() {
     const std::string result =
         OpenFileDialog(*this, AddTitle, FileFilter(cmbEngines.ListIndex()), "", SeveralFilesFlags);
-    if (result.empty()) {
-        return;
-    }
-    std::size_t nul = result.find('\0');
-    if (nul == std::string::npos) {
-        AddToFileList(result);
-        return;
-    }
-    const std::string prefix = result.substr(0, nul) + "\\";
-    while (nul != std::string::npos) {
-        const std::size_t start = nul + 1;
-        nul = result.find('\0', start);
-        AddToFileList(prefix + result.substr(start, nul - start));
+    for (std::string& path : ChosenFiles(result)) {
+        AddToFileList(std::move(path));
     }
 }
 
@@ -137,8 +125,8 @@ void MainWindow::FileListDoubleClicked() {
     }
 }
 
-void MainWindow::FileListReleased(int button, double x, double y) {
-    if (lstFiles.ListIndex() < 0 || button != RightButton) {
+void MainWindow::FileListReleased(toolkit::MouseButton button, double x, double y) {
+    if (lstFiles.ListIndex() < 0 || button != toolkit::MouseButton::Right) {
         return;
     }
     lstFiles.SetFocus();
@@ -151,12 +139,19 @@ void MainWindow::FileListReleased(int button, double x, double y) {
     mnuFileList.PopUp(*this);
 }
 
-/// The text file that came with an entry has the entry's path up to its first point, folders
-/// included. An entry without any point has none.
-std::string MainWindow::TextFileName(int Index) const {
-    const std::string path = LowerCase(FileList.Item(Index));
-    const std::size_t point = path.find('.');
-    return point == std::string::npos ? std::string() : path.substr(0, point) + ".txt";
+/// Path of the text file that belongs to an entry: the entry's path up to its first dot, with
+/// ".txt". Dots in folder names count. Empty for an entry without any dot.
+std::string MainWindow::TextFileName(int index) const {
+    const std::string path = LowerCase(FileList.Item(index));
+    const std::size_t dot = path.find('.');
+    return dot == std::string::npos ? std::string() : path.substr(0, dot) + ".txt";
+}
+
+void MainWindow::PointerOverFiles(double x, double y) {
+    const int row = ListItemAt(lstFiles, x, y);
+    if (row >= 0) {
+        lstFiles.SetToolTip(lstFiles.List(row));
+    }
 }
 
 void MainWindow::ViewText() {
@@ -181,12 +176,9 @@ std::string FileFilter(int engine) {
     return patterns.empty() ? list : "All supported files|" + patterns + "|" + list;
 }
 
-int ListItemAt(const toolkit::ListBox& list, double X, double Y) {
-    const auto pixel = [](double units, double unitsPerPixel) {
-        return static_cast<int>(std::lround(units / unitsPerPixel));
-    };
-    const std::uint32_t answer = desktop::ItemFromPoint(list, pixel(X, desktop::UnitsPerPixelX()),
-                                                        pixel(Y, desktop::UnitsPerPixelY()));
-    return answer >= static_cast<std::uint32_t>(list.ListCount()) ? NoSelection
-                                                                  : static_cast<int>(answer);
+int ListItemAt(const toolkit::ListBox& list, double x, double y) {
+    const std::uint32_t row = desktop::ItemFromPoint(list, static_cast<int>(std::lround(x)),
+                                                     static_cast<int>(std::lround(y)));
+    return row >= static_cast<std::uint32_t>(list.ListCount()) ? NoSelection
+                                                               : static_cast<int>(row);
 }

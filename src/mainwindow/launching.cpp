@@ -5,8 +5,8 @@
 #include "launch/run_program.h"
 #include "mainwindow/main_window.h"
 #include "platform/files.h"
+#include "state/messages.h"
 #include "state/records.h"
-#include "toolkit/dialogs.h"
 
 namespace {
 
@@ -25,26 +25,12 @@ constexpr const char* NoDemo =
     "support recording demos or it wasn't able to save the demo to the location that Zorvane "
     "specified.";
 
-void Warn(const char* text) {
-    desktop::ShowMessage(text, ProgramTitle, desktop::MessageIcon::Exclamation);
-}
-
-/// The first file of a choice: of several, the folder and the first name behind it.
-std::string FirstChosen(const std::string& choice) {
-    const std::size_t nul = choice.find('\0');
-    if (nul == std::string::npos) {
-        return choice;
-    }
-    const std::size_t end = choice.find('\0', nul + 1);
-    return choice.substr(0, nul) + "\\" + choice.substr(nul + 1, end - nul - 1);
-}
-
 }  // namespace
 
-bool MainWindow::ValidateSelection(bool CheckSkill) {
+bool MainWindow::ValidateSelection(bool checkSkill) {
     const char* missing = cmbEngines.ListIndex() < 0               ? NoEngine
                           : cmbIWADs.ListIndex() < 0               ? NoGameWad
-                          : CheckSkill && cmbSkill.ListIndex() < 0 ? NoSkill
+                          : checkSkill && cmbSkill.ListIndex() < 0 ? NoSkill
                                                                    : nullptr;
     if (missing != nullptr) {
         Warn(missing);
@@ -65,8 +51,8 @@ void MainWindow::Launch() {
 }
 
 void MainWindow::Run() {
-    RecordDemoRequested = false;
-    PlayDemoRequested = false;
+    recordDemoRequested_ = false;
+    playDemoRequested_ = false;
     RunQuickStart();
 }
 
@@ -75,8 +61,8 @@ void MainWindow::Record() {
         Warn(NoEngine);
         return;
     }
-    RecordDemoRequested = true;
-    PlayDemoRequested = false;
+    recordDemoRequested_ = true;
+    playDemoRequested_ = false;
     const EngineRecord& engine = EngineAt(cmbEngines.ListIndex());
     frmDemoSave.DemoFileName = engine.path + "\\temp.lmp";
     frmDemoSave.DemoExt = engine.demoext;
@@ -95,12 +81,14 @@ void MainWindow::PlayBack() {
         return;
     }
     const std::string filter = DemoFilter(EngineAt(cmbEngines.ListIndex()).demoext);
-    PlayDemoFile = FirstChosen(OpenFileDialog(*this, "Select demo", filter, "", SeveralFilesFlags));
-    if (PlayDemoFile.empty()) {
+    const std::vector<std::string> chosen =
+        ChosenFiles(OpenFileDialog(*this, "Select demo", filter, "", SeveralFilesFlags));
+    if (chosen.empty()) {
         return;
     }
-    RecordDemoRequested = false;
-    PlayDemoRequested = true;
+    playDemoFile_ = chosen.front();
+    recordDemoRequested_ = false;
+    playDemoRequested_ = true;
     RunQuickStart();
 }
 
@@ -116,12 +104,12 @@ void MainWindow::RunQuickStart() {
     start.fastMonsters = chkFastMonsters.Checked();
     start.respawnMonsters = chkRespawnMonsters.Checked();
     start.map = cmbMaps.Text();
-    start.recordTo = RecordDemoRequested ? frmDemoSave.DemoFileName : std::string();
-    start.playFrom = PlayDemoRequested ? PlayDemoFile : std::string();
+    start.recordTo = recordDemoRequested_ ? frmDemoSave.DemoFileName : std::string();
+    start.playFrom = playDemoRequested_ ? playDemoFile_ : std::string();
     start.parameters = txtParameters.Text();
     std::string program = ProgramFile(EngineAt(start.engine));
     if (RunProgram(program, QuickStartCommandLine(start, FileList), ShowNormally,
-                   RecordDemoRequested) == 0) {
+                   recordDemoRequested_) == 0) {
         Warn(RunFailed);
     }
 }

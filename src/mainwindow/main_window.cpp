@@ -1,6 +1,5 @@
 #include "mainwindow/main_window.h"
 
-#include "mainwindow/table.h"
 #include "platform/facts.h"
 #include "setup/credits.h"
 #include "setup/engine_settings.h"
@@ -16,8 +15,8 @@ constexpr const char* SkillNames[] = {
     "Ultra-Violence! (4)",       "NIGHTMARE! (5)",
 };
 
-/// What the map field shows as long as no map is chosen.
-constexpr const char* UsualFirstMap = "MAP01";
+/// Text of the map field while no map is selected.
+constexpr const char* DefaultMap = "MAP01";
 
 std::string VersionLine() {
     const platform::VersionNumbers version = platform::ProgramVersion();
@@ -25,37 +24,20 @@ std::string VersionLine() {
            " build " + std::to_string(version.revision);
 }
 
-/// The controls that only mirror a settings key, each kind in its own way.
-void Mirror(toolkit::ItemControl& list) {
-    list.OnClick = [&list] { StoreSetting(list.Spec().key, list.ListIndex()); };
-}
-
-void Mirror(toolkit::CheckBox& box) {
-    box.OnClick = [&box] { StoreSetting(box.Spec().key, box.Checked() ? 1 : 0); };
-}
-
-void Mirror(toolkit::TextBox& box) {
-    box.OnChange = [&box] { StoreSetting(box.Spec().key, box.Text()); };
-}
-
-void Restore(toolkit::ItemControl& list) {
-    list.SetListIndex(SettingNumber(list.Spec().key));
-}
-
-void Restore(toolkit::CheckBox& box) {
-    box.SetChecked(SettingNumber(box.Spec().key) != 0);
-}
-
 }  // namespace
 
 MainWindow frmMain;
 
-MainWindow::MainWindow() : Window(MainWindowTable) {
-    OnLoad = [this] { OnLoadWindow(); };
+MainWindow::MainWindow()
+    : Window({.caption = "Zorvane", .width = 376, .height = 286, .values = &SettingsValues}) {
+    OnLoad = [this] { LoadControls(); };
     OnCloseRequest = [] { ShutDown(); };
-    MirrorControls();
+    OnTip = [this](std::string_view tip) { ShowTip(tip); };
     cmbIWADs.OnClick = [this] { GameWadChosen(); };
     cmdSettings.OnClick = [this] { ShowSettings(); };
+    cmdSettings.OnPointerMoved = [this](double, double) {
+        ShowTip("Adjust " + cmbEngines.Text() + "'s options.");
+    };
     cmdSetup.OnClick = [] { frmSetup.ShowModal(); };
     cmdAbout.OnClick = [] { frmCredits.ShowModal(); };
     cmdExit.OnClick = [] { ShutDown(); };
@@ -64,46 +46,25 @@ MainWindow::MainWindow() : Window(MainWindowTable) {
     cmdDemo.OnClick = [this] { Record(); };
     cmdPlayBack.OnClick = [this] { PlayBack(); };
     ConnectFileList();
-    ConnectTips();
 }
 
-void MainWindow::MirrorControls() {
-    Mirror(cmbEngines);
-    Mirror(cmbMaps);
-    Mirror(cmbSkill);
-    Mirror(chkNoMonsters);
-    Mirror(chkFastMonsters);
-    Mirror(chkRespawnMonsters);
-    Mirror(chkDeathmatch);
-    Mirror(txtParameters);
-}
-
-// The order is what makes the stored map survive: filling the lists chooses a map of its own, and
-// that one is overwritten at the end.
-void MainWindow::OnLoadWindow() {
-    RecordDemoRequested = false;
-    PlayDemoRequested = false;
-    PlayDemoFile.clear();
+void MainWindow::LoadControls() {
+    recordDemoRequested_ = false;
+    playDemoRequested_ = false;
+    playDemoFile_.clear();
     for (const char* name : SkillNames) {
         cmbSkill.AddItem(name);
     }
-    SetCaption(ProgramTitle);
     lblTitle.SetCaption(ProgramTitle);
     lblVersion.SetCaption(VersionLine());
-    SavedMapIndex = SettingNumber("map");
+    savedMapIndex_ = SettingNumber("map");
     SetupLists();
     FillFileList();
-    txtParameters.SetText(SettingText("parameters"));
-    Restore(cmbEngines);
-    Restore(cmbIWADs);
-    Restore(cmbSkill);
-    Restore(chkNoMonsters);
-    Restore(chkFastMonsters);
-    Restore(chkRespawnMonsters);
-    Restore(chkDeathmatch);
-    Settings.Root()->Item("map") = std::int32_t{SavedMapIndex};
-    cmbMaps.SetText(UsualFirstMap);
-    Restore(cmbMaps);
+    RestoreValues();
+    // Choosing the game has chosen a map and stored it: the stored map comes last.
+    Settings.Root()->Item("map") = std::int32_t{savedMapIndex_};
+    cmbMaps.SetText(DefaultMap);
+    cmbMaps.SetListIndex(SettingNumber("map"));
     UpdateFileControls();
 }
 
@@ -113,20 +74,19 @@ void MainWindow::SetupLists() {
         cmbEngines.AddItem(engine.realname);
     }
     if (EngineCount() > 0) {
-        Restore(cmbEngines);
+        cmbEngines.SetListIndex(SettingNumber("engine"));
     }
     cmbIWADs.Clear();
     for (const GameWadRecord& gameWad : GameWads) {
         cmbIWADs.AddItem(gameWad.name);
     }
     if (GameWadCount() > 0) {
-        Restore(cmbIWADs);
+        cmbIWADs.SetListIndex(SettingNumber("iwad"));
     }
 }
 
-// The map is kept by its position in the list, whatever its name.
+/// The map stays selected by its position in the list, whatever its name.
 void MainWindow::GameWadChosen() {
-    StoreSetting("iwad", cmbIWADs.ListIndex());
     const int oldRow = cmbMaps.ListIndex();
     const int gameWad = cmbIWADs.ListIndex();
     FillMapList(gameWad < 0 ? std::string() : GameWadAt(gameWad).file, cmbMaps);
@@ -139,4 +99,8 @@ void MainWindow::ShowSettings() {
     }
     frmEngineSettings.PassEngine(cmbEngines.ListIndex());
     frmEngineSettings.ShowModal();
+}
+
+void MainWindow::ShowTip(std::string_view tip) {
+    lblTip.SetCaption(std::string(tip));
 }

@@ -2,18 +2,19 @@
 #include <vector>
 
 #include "mainwindow/main_window.h"
+#include "state/messages.h"
 #include "state/records.h"
 #include "text/ascii.h"
 #include "toolkit/dialogs.h"
 #include "wad/maps.h"
 #include "wad/wad.h"
 
-void MainWindow::FillMapList(const std::string& FileName, toolkit::ComboBox& Maps) {
+void MainWindow::FillMapList(const std::string& fileName, toolkit::ComboBox& maps) {
     clsWad wad;
-    wad.OpenWad(FileName);
-    Maps.Clear();
+    wad.OpenWad(fileName);
+    maps.Clear();
     for (std::string& name : MapNames(wad)) {
-        Maps.AddItem(std::move(name));
+        maps.AddItem(std::move(name));
     }
 }
 
@@ -37,11 +38,9 @@ void MainWindow::UseFirstMap() {
             return;
         }
     }
-    desktop::ShowMessage("Warning: The map " + firstMap +
-                             " does not appear in the game WAD.\r\n"
-                             "Make sure you have selected the game WAD matching the one needed "
-                             "for " +
-                             shownPath + ".",
-                         ProgramTitle, desktop::MessageIcon::Exclamation);
+    Warn("Warning: The map " + firstMap +
+         " does not appear in the game WAD.\r\n"
+         "Make sure you have selected the game WAD matching the one needed for " +
+         shownPath + ".");
     cmbMaps.SetText(firstMap);
 }

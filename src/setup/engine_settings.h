@@ -1,27 +1,32 @@
-// The dialog that turns an engine's switches on and off.
+// The dialog that switches an engine's options on and off.
 #pragma once
 
 #include <array>
-#include <memory>
 
 #include "state/records.h"
 #include "toolkit/control.h"
 #include "toolkit/window.h"
 
-/// Shows the switches of one engine as check boxes, with the text that they give on the command
-/// line. A click changes the record at once.
+/// Shows the options of one engine as check boxes, and their text on the command line. A click
+/// changes the engine's record immediately.
 class EngineSettingsWindow : public toolkit::Window {
   public:
     EngineSettingsWindow();
 
-    /// Prepares the window for one engine, by its index in Engines. The caller shows it then.
-    void PassEngine(int EngineNum);
+    /// Fills the window for the engine at an index of Engines. The caller shows it.
+    void PassEngine(int engineNum);
 
-    std::array<std::unique_ptr<toolkit::CheckBox>, OptionCount> chkOptions;
-    toolkit::Label lblParameters{*this, "lblParameters"};
-    toolkit::Button cmdAccept{*this, "cmdAccept"};
-    toolkit::Frame Frame1{*this, "Frame1"};
-    toolkit::Label lblParametersCaption{*this, "lblParametersCaption"};
+    // clang-format off
+    toolkit::Frame Frame1{*this, {.caption = "Options", .place = {9, 8, 340, 122}, .tab = 18}};
+    std::array<toolkit::CheckBox, OptionCount> chkOptions;
+    toolkit::Label lblParametersCaption{*this, {
+        .caption = "Command line parameters", .place = {9, 137, 340, 9}, .tab = 19}};
+    toolkit::Label lblParameters{*this, {
+        .place = {9, 148, 340, 34}, .tab = 16, .flags = toolkit::Sunken,
+        .label = &lblParametersCaption}};
+    toolkit::Button cmdAccept{*this, {
+        .caption = "Accept", .place = {299, 190, 50, 14}, .tab = 17, .flags = toolkit::Default}};
+    // clang-format on
 
   private:
     void ShowEngineOptions();

@@ -2,6 +2,7 @@
 
 #include "dialogs/dialogs.h"
 #include "setup/engine_settings.h"
+#include "state/messages.h"
 #include "state/records.h"
 #include "state/settings.h"
 #include "text/ascii.h"
@@ -10,32 +11,6 @@
 
 namespace {
 
-// clang-format off
-constexpr toolkit::ControlSpec Rows[] = {
-    {.name = "lblIWADs", .caption = "Game WADs", .place = {9, 8, 200, 9}, .tab = 8,
-     .names = "lvwIWADs"},
-    {.name = "lvwIWADs", .caption = "Name|File", .place = {9, 19, 358, 76}, .tab = 0},
-    {.name = "cmdRename", .caption = "Rename", .place = {209, 99, 50, 14}, .tab = 1},
-    {.name = "cmdRemove", .caption = "Remove", .place = {263, 99, 50, 14}, .tab = 2},
-    {.name = "cmdAdd", .caption = "Add", .place = {317, 99, 50, 14}, .tab = 3},
-    {.name = "lblEngines", .caption = "Engines", .place = {9, 120, 200, 9}, .tab = 9,
-     .names = "lvwEngines"},
-    {.name = "lvwEngines", .caption = "Name|File", .place = {9, 131, 358, 76}, .tab = 4},
-    {.name = "cmdPath", .caption = "Path...", .place = {263, 211, 50, 14}, .tab = 5},
-    {.name = "cmdEngineSettings", .caption = "Settings...", .place = {317, 211, 50, 14}, .tab = 6},
-    {.name = "cmdOK", .caption = "Accept", .place = {317, 237, 50, 14}, .tab = 7,
-     .flags = toolkit::Default},
-};
-// clang-format on
-
-constexpr toolkit::WindowSpec WindowRow = {.name = "frmSetup",
-                                           .caption = "Program setup",
-                                           .width = 376,
-                                           .height = 260,
-                                           .dialog = true,
-                                           .rows = Rows};
-
-constexpr const char* WadFilter = "WAD files (*.wad)|*.wad|All files (*.*)|*.*";
 constexpr const char* PatchWadMessage =
     "Please select a game IWAD. The file you selected was a patch WAD.";
 constexpr const char* NameTitle = "Enter a name";
@@ -47,19 +22,17 @@ bool IsGameWad(const std::string& path) {
     return wad.WadType() == GameWadType;
 }
 
-/// Selects row 1, if there is one, and then the row that was selected before, if it is there.
+/// Selects the row that was selected before, or row 1 if it no longer exists.
 void SelectAgain(toolkit::ListView& view, int row) {
-    view.SelectRow(1);
-    if (row >= 1 && row <= view.RowCount()) {
-        view.SelectRow(row);
-    }
+    view.SelectRow(row >= 1 && row <= view.RowCount() ? row : 1);
 }
 
 }  // namespace
 
 SetupWindow frmSetup;
 
-SetupWindow::SetupWindow() : Window(WindowRow) {
+SetupWindow::SetupWindow()
+    : Window({.caption = "Program setup", .width = 376, .height = 260, .dialog = true}) {
     cmdAdd.OnClick = [this] { Add(); };
     cmdRemove.OnClick = [this] { Remove(); };
     cmdRename.OnClick = [this] { Rename(); };
@@ -93,7 +66,7 @@ void SetupWindow::Add() {
         return;
     }
     if (!IsGameWad(file)) {
-        desktop::ShowMessage(PatchWadMessage, ProgramTitle, desktop::MessageIcon::Exclamation);
+        Warn(PatchWadMessage);
         return;
     }
     const std::string name =
@@ -155,9 +128,7 @@ void SetupWindow::Accept() {
     if (SettingNumber("iwad") > GameWadCount() - 1) {
         StoreSetting("iwad", GameWadCount() - 1);
     }
-    if (OnAccepted) {
-        OnAccepted();
-    }
+    toolkit::Run(OnAccepted);
     Hide();
 }
 

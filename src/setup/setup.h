@@ -1,4 +1,4 @@
-// The dialog in which the user keeps the game WADs and tells where each engine lies.
+// The setup dialog: the list of game WADs, and the folder of each engine.
 #pragma once
 
 #include <functional>
@@ -7,28 +7,35 @@
 #include "toolkit/lists.h"
 #include "toolkit/window.h"
 
-/// Edits GameWads and Engines in place, at once; there is no way back. Leaving it tells the main
-/// window to fill its lists again.
+/// Edits GameWads and Engines directly; a change cannot be cancelled.
 class SetupWindow : public toolkit::Window {
   public:
     SetupWindow();
 
-    /// Fills both list views again. A selection stays on its row number, or falls back to row 1.
+    /// Fills both list views again. A selection keeps its row number, or falls back to row 1.
     void SetupLists();
 
-    /// Runs when the user leaves the dialog, before it goes away.
+    /// Runs when the user accepts or closes the dialog, before it is hidden.
     std::function<void()> OnAccepted;
 
-    toolkit::Label lblIWADs{*this, "lblIWADs"};
-    toolkit::ListView lvwIWADs{*this, "lvwIWADs"};
-    toolkit::Button cmdRename{*this, "cmdRename"};
-    toolkit::Button cmdRemove{*this, "cmdRemove"};
-    toolkit::Button cmdAdd{*this, "cmdAdd"};
-    toolkit::Label lblEngines{*this, "lblEngines"};
-    toolkit::ListView lvwEngines{*this, "lvwEngines"};
-    toolkit::Button cmdPath{*this, "cmdPath"};
-    toolkit::Button cmdEngineSettings{*this, "cmdEngineSettings"};
-    toolkit::Button cmdOK{*this, "cmdOK"};
+    // clang-format off
+    toolkit::Label lblIWADs{*this, {.caption = "Game WADs", .place = {9, 8, 200, 9}, .tab = 8}};
+    toolkit::ListView lvwIWADs{*this, {
+        .caption = "Name|File", .place = {9, 19, 358, 76}, .tab = 0, .label = &lblIWADs}};
+    toolkit::Button cmdRename{*this, {
+        .caption = "Rename", .place = {209, 99, 50, 14}, .tab = 1}};
+    toolkit::Button cmdRemove{*this, {
+        .caption = "Remove", .place = {263, 99, 50, 14}, .tab = 2}};
+    toolkit::Button cmdAdd{*this, {.caption = "Add", .place = {317, 99, 50, 14}, .tab = 3}};
+    toolkit::Label lblEngines{*this, {.caption = "Engines", .place = {9, 120, 200, 9}, .tab = 9}};
+    toolkit::ListView lvwEngines{*this, {
+        .caption = "Name|File", .place = {9, 131, 358, 76}, .tab = 4, .label = &lblEngines}};
+    toolkit::Button cmdPath{*this, {.caption = "Path...", .place = {263, 211, 50, 14}, .tab = 5}};
+    toolkit::Button cmdEngineSettings{*this, {
+        .caption = "Settings...", .place = {317, 211, 50, 14}, .tab = 6}};
+    toolkit::Button cmdOK{*this, {
+        .caption = "Accept", .place = {317, 237, 50, 14}, .tab = 7, .flags = toolkit::Default}};
+    // clang-format on
 
   private:
     void Add();
@@ -41,5 +48,5 @@ class SetupWindow : public toolkit::Window {
 
 extern SetupWindow frmSetup;
 
-/// The formal name of a known game WAD, found by the file name in a path; empty for an unknown one.
+/// Returns the name of a known game WAD, looked up by the file name in a path, or an empty text.
 std::string ProposedName(const std::string& path);

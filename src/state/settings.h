@@ -25,6 +25,7 @@
 
 #include "platform/files.h"
 #include "state/records.h"
+#include "toolkit/window.h"
 
 /// Makes the default settings and finds the name of their file.
 void InitialiseSettings();
@@ -54,3 +55,7 @@ std::string SettingText(std::string_view key);
 /// Replaces the value of a key. Numbers go in as 16-bit ones.
 void StoreSetting(std::string_view key, int number);
 void StoreSetting(std::string_view key, const std::string& text);
+
+/// The settings as the place where controls keep their values.
+inline constexpr toolkit::ValueStore SettingsValues = {SettingNumber, SettingText, StoreSetting,
+                                                       StoreSetting};

@@ -1,35 +1,18 @@
 #include "toolkit/control.h"
 
-#include <cstdlib>
-
 namespace toolkit {
-namespace {
 
-/// A control without a row is a slip of its window's author, found at the first start.
-const ControlSpec& RowOf(const Window& window, std::string_view name) {
-    for (const ControlSpec& row : window.Spec().rows) {
-        if (row.name == name) {
-            return row;
-        }
-    }
-    std::abort();
-}
-
-void Run(const std::function<void()>& handler) {
-    if (handler) {
-        handler();
-    }
-}
-
-}  // namespace
-
-Control::Control(Window& window, Kind kind, std::string_view name)
-    : window_(window), row_(RowOf(window, name)), kind_(kind), caption_(row_.caption) {
+Control::Control(Window& window, Kind kind, const ControlSpec& spec)
+    : window_(window),
+      spec_(spec),
+      index_(static_cast<int>(window.controls_.size())),
+      kind_(kind),
+      caption_(spec.caption) {
     window.controls_.push_back(this);
 }
 
 void Control::Reset() {
-    caption_ = row_.caption;
+    caption_ = spec_.caption;
     toolTip_.clear();
     enabled_ = true;
     visible_ = true;
@@ -74,24 +57,23 @@ void Control::SetFocus() {
 }
 
 void Control::UserMovesPointer(double x, double y) {
-    if (OnPointerMoved) {
-        OnPointerMoved(x, y);
+    if (spec_.tip) {
+        Run(window_.OnTip, *spec_.tip);
+    }
+    Run(OnPointerMoved, x, y);
+}
+
+void Control::StoreValue(int number) {
+    if (!spec_.key.empty()) {
+        window_.Spec().values->storeNumber(spec_.key, number);
     }
 }
 
-void Control::UserReleasesButton(int button, double x, double y) {
-    if (OnButtonReleased) {
-        OnButtonReleased(button, x, y);
+void Control::StoreValue(const std::string& text) {
+    if (!spec_.key.empty()) {
+        window_.Spec().values->storeText(spec_.key, text);
     }
 }
-
-void Label::UserClicks() {
-    Run(OnClick);
-}
-
-Button::Button(Window& window, std::string_view name)
-    : Control(window, RowOf(window, name).picture.empty() ? Kind::Button : Kind::PictureButton,
-              name) {}
 
 void Button::UserClicks() {
     if (Enabled() && Visible()) {
@@ -103,6 +85,7 @@ void CheckBox::SetChecked(bool checked) {
     if (checked != checked_) {
         checked_ = checked;
         Changed(desktop::Property::Checked);
+        StoreValue(checked ? 1 : 0);
         Run(OnClick);
     }
 }
@@ -112,24 +95,37 @@ void CheckBox::Reset() {
     checked_ = false;
 }
 
+void CheckBox::RestoreValue() {
+    SetChecked(Owner().Spec().values->number(Spec().key) != 0);
+}
+
 void TextBox::SetText(std::string text) {
     if (text != text_) {
         text_ = std::move(text);
         Changed(desktop::Property::Text);
-        Run(OnChange);
+        ReportChange();
     }
 }
 
 void TextBox::UserTypes(std::string text) {
     if (text != text_) {
         text_ = std::move(text);
-        Run(OnChange);
+        ReportChange();
     }
+}
+
+void TextBox::ReportChange() {
+    StoreValue(text_);
+    Run(OnChange);
 }
 
 void TextBox::Reset() {
     Control::Reset();
     text_.clear();
+}
+
+void TextBox::RestoreValue() {
+    SetText(Owner().Spec().values->text(Spec().key));
 }
 
 }  // namespace toolkit

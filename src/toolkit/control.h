@@ -1,11 +1,13 @@
-// What all controls have in common, and those without items.
+// What all controls have in common, and the controls without items.
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 
 #include "toolkit/desktop.h"
+#include "toolkit/events.h"
 #include "toolkit/window.h"
 
 namespace toolkit {
@@ -13,7 +15,6 @@ namespace toolkit {
 enum class Kind {
     Label,
     Button,
-    PictureButton,
     CheckBox,
     TextBox,
     ListBox,
@@ -25,8 +26,48 @@ enum class Kind {
     Picture,
 };
 
-/// A control holds everything that the system asks of it, and its events. A setter that changes
-/// something tells the back end; one that is given what is there already does nothing at all.
+/// A rectangle in dialog units: horizontally a quarter of the average character width of the
+/// desktop's font, vertically an eighth of the font's height.
+struct Place {
+    int x = 0;
+    int y = 0;
+    int width = 0;
+    int height = 0;
+};
+
+/// Properties that a control may be declared with, besides its caption and place.
+enum Flag : unsigned {
+    Default = 1U << 0,  // button: the Enter key presses it
+    Cancel = 1U << 1,   // button: the Escape key presses it
+    Accent = 1U << 2,   // button: in the colour of the program
+    Bold = 1U << 3,     // label: in bold type
+    Title = 1U << 4,    // label: in large bold type on the title band
+    Small = 1U << 5,    // label: in small type on the title band, right-aligned
+    Link = 1U << 6,     // label: looks like a link and can be clicked
+    Sunken = 1U << 7,   // label: with a border, its text wrapped
+    Quiet = 1U << 8,    // label: in a weaker colour
+    IsPath = 1U << 9,   // text box: holds a path, which is shown in the system's notation
+    Follows =
+        1U << 10,  // label: as wide as its text, directly after the text of the control before
+};
+
+/// The declaration of one control: everything that there is to say about it.
+struct ControlSpec {
+    std::string_view caption = {};  // list view: the heads of its two columns, separated by "|"
+    Place place = {};
+    int tab = -1;                          // position in the tab order, -1 for none
+    unsigned flags = 0;                    // a combination of Flag
+    std::string_view key = {};             // settings key that keeps the control's value
+    const Control* label = nullptr;        // label that names the control to a screen reader
+    std::string_view picture = {};         // name of a picture of ours
+    std::string_view accessibleName = {};  // for a control that has neither caption nor label
+    /// Line for Window::OnTip while the pointer is over the control. Without one the event is not
+    /// raised.
+    std::optional<std::string_view> tip = {};
+};
+
+/// A control holds all of its state that the program asks for, and its events. A setter is a no-op
+/// if nothing changes (except ComboBox::SetText); otherwise it notifies the back end.
 class Control {
   public:
     Control(const Control&) = delete;
@@ -34,8 +75,10 @@ class Control {
 
     Kind GetKind() const { return kind_; }
     Window& Owner() const { return window_; }
-    const ControlSpec& Spec() const { return row_; }
-    bool Has(Flag flag) const { return (row_.flags & flag) != 0; }
+    const ControlSpec& Spec() const { return spec_; }
+    /// Position in Owner().Controls(), from 0.
+    int Index() const { return index_; }
+    bool Has(Flag flag) const { return (spec_.flags & flag) != 0; }
 
     const std::string& Caption() const { return caption_; }
     void SetCaption(std::string caption);
@@ -47,99 +90,107 @@ class Control {
     void SetToolTip(std::string toolTip);
     void SetFocus();
 
-    /// What a back end reports. Positions are in the units of pointer events, from the control's
-    /// upper left corner; `button` is 1 for the left and 2 for the right one.
+    /// Called by a back end when the pointer moved over the control; in pixels from its upper left
+    /// corner.
     void UserMovesPointer(double x, double y);
-    void UserReleasesButton(int button, double x, double y);
 
     /// The pointer moved over the control.
     std::function<void(double x, double y)> OnPointerMoved;
-    /// A mouse button was released over the control.
-    std::function<void(int button, double x, double y)> OnButtonReleased;
 
   protected:
-    Control(Window& window, Kind kind, std::string_view name);
+    Control(Window& window, Kind kind, const ControlSpec& spec);
     virtual ~Control() = default;
 
+    /// Notifies the back end; `row` belongs to the item properties.
     void Changed(desktop::Property property, int row = -1);
-    /// Takes the state that the table tells, without an event.
+    /// Resets the control to its declaration, without an event.
     virtual void Reset();
+    /// Sets the control to the value stored under its key. Only controls with a value have one.
+    virtual void RestoreValue() {}
+
+    /// Keeps a new value under the control's key, if it has one.
+    void StoreValue(int number);
+    void StoreValue(const std::string& text);
 
   private:
     friend class Window;
 
     Window& window_;
-    const ControlSpec& row_;
-    Kind kind_;
+    const ControlSpec spec_;
+    const int index_;
+    const Kind kind_;
     std::string caption_;
     std::string toolTip_;
     bool enabled_ = true;
     bool visible_ = true;
 };
 
-/// A control that only shows: label, frame, divider line or picture. A label with the flag Link is
-/// the one that can be clicked.
+/// A line of text. Only a label with the flag Link can be clicked.
 class Label : public Control {
   public:
-    Label(Window& window, std::string_view name) : Control(window, Kind::Label, name) {}
-    void UserClicks();
+    Label(Window& window, const ControlSpec& spec) : Control(window, Kind::Label, spec) {}
+    void UserClicks() { Run(OnClick); }
     std::function<void()> OnClick;
 };
 
 class Frame : public Control {
   public:
-    Frame(Window& window, std::string_view name) : Control(window, Kind::Frame, name) {}
+    Frame(Window& window, const ControlSpec& spec) : Control(window, Kind::Frame, spec) {}
 };
 
 class Divider : public Control {
   public:
-    Divider(Window& window, std::string_view name) : Control(window, Kind::Divider, name) {}
+    Divider(Window& window, const ControlSpec& spec) : Control(window, Kind::Divider, spec) {}
 };
 
 class Picture : public Control {
   public:
-    Picture(Window& window, std::string_view name) : Control(window, Kind::Picture, name) {}
+    Picture(Window& window, const ControlSpec& spec) : Control(window, Kind::Picture, spec) {}
 };
 
-/// A push button, with a caption or, when its row names one, with a picture.
+/// A push button, with a caption or with a picture.
 class Button : public Control {
   public:
-    Button(Window& window, std::string_view name);
-    /// Presses the button, if it can be pressed.
+    Button(Window& window, const ControlSpec& spec) : Control(window, Kind::Button, spec) {}
+    /// Runs OnClick if the button is enabled and visible.
     void UserClicks();
     std::function<void()> OnClick;
 };
 
 class CheckBox : public Control {
   public:
-    CheckBox(Window& window, std::string_view name) : Control(window, Kind::CheckBox, name) {}
+    CheckBox(Window& window, const ControlSpec& spec) : Control(window, Kind::CheckBox, spec) {}
     bool Checked() const { return checked_; }
-    /// A new state runs OnClick.
+    /// A new state is stored and runs OnClick.
     void SetChecked(bool checked);
     void UserChecks(bool checked) { SetChecked(checked); }
     std::function<void()> OnClick;
 
   protected:
     void Reset() override;
+    void RestoreValue() override;
 
   private:
     bool checked_ = false;
 };
 
-/// One line of text.
+/// One line of editable text.
 class TextBox : public Control {
   public:
-    TextBox(Window& window, std::string_view name) : Control(window, Kind::TextBox, name) {}
+    TextBox(Window& window, const ControlSpec& spec) : Control(window, Kind::TextBox, spec) {}
     const std::string& Text() const { return text_; }
-    /// A new text runs OnChange.
+    /// A new text is stored and runs OnChange.
     void SetText(std::string text);
     void UserTypes(std::string text);
     std::function<void()> OnChange;
 
   protected:
     void Reset() override;
+    void RestoreValue() override;
 
   private:
+    void ReportChange();
+
     std::string text_;
 };
 

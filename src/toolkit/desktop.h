@@ -1,6 +1,6 @@
-// What the toolkit asks of the machine's windowing system. A back end draws the state that controls
-// and windows hold and reports what the user does by calling their `User...` functions. Drawing
-// raises no event: a back end is silent when it is told of a change.
+// The desktop contract: what a back end (toolkit/qt, toolkit/win32) does for windows and controls.
+// A back end draws their state and reports what the user does by calling their `User...` functions.
+// It raises no event for a change that the program makes.
 #pragma once
 
 #include <cstdint>
@@ -14,7 +14,7 @@ class Window;
 
 namespace desktop {
 
-/// What of a control has changed. For the item properties the row comes along.
+/// The property of a control that has changed.
 enum class Property {
     Caption,
     Text,
@@ -26,44 +26,40 @@ enum class Property {
     Enabled,
     Visible,
     ToolTip,
-    Focus,
+    Focus,  // the control is to take the keyboard focus
 };
 
-/// Makes the native window and its controls, hidden, from what the table and the controls say.
-/// Without a native window nothing below that takes a window or a control does anything.
+/// Initialises the windowing system; called before the first window is loaded. Removes the options
+/// of the windowing system from the arguments.
+void StartDesktop(int& argumentCount, char** arguments);
+/// Handles the events that are pending, and returns.
+void DoEvents();
+/// Handles events until the process ends.
+int RunEventLoop();
+
+/// Adds a window, hidden. The functions below are no-ops for a window that is not loaded.
 void LoadWindow(toolkit::Window& window);
-/// Destroys the native window. Raises no close request.
+/// Removes a window, without a close request.
 void UnloadWindow(toolkit::Window& window);
-/// Shows it, not modally, in the middle of the screen.
+/// Shows a window non-modally, in the middle of the screen.
 void ShowWindow(toolkit::Window& window);
 void HideWindow(toolkit::Window& window);
-/// Shows it over the active window, which takes no input meanwhile, and lets events run until
-/// window.Visible() is false. The active window has the focus again afterwards.
+/// Shows a window over the active one, which takes no input meanwhile. Handles events until
+/// window.Visible() is false, then gives the focus back to the window that was active.
 void RunModal(toolkit::Window& window);
-/// Draws the whole window now.
+/// Draws the whole window immediately.
 void RepaintWindow(toolkit::Window& window);
+/// Draws the window's new caption.
 void CaptionChanged(toolkit::Window& window);
-
-/// Draws one property of a control anew.
+/// Draws a control's new property. `row` is the row of ItemAdded and ItemRemoved.
 void PropertyChanged(toolkit::Control& control, Property property, int row = -1);
 
-/// Row under a pixel of a list box, as LB_ITEMFROMPOINT tells it: the row number in the low 16 bits
-/// (the nearest row where there is none), 1 in the high 16 bits when the point is outside of the
-/// client area. The row count itself or more stands for a point below the last row.
+/// Row under a pixel of a list box, with the result of LB_ITEMFROMPOINT: the nearest row in the low
+/// 16 bits, and 1 in the high 16 bits if the point is outside the client area. For a point below
+/// the last row the result is at least the number of rows.
 std::uint32_t ItemFromPoint(const toolkit::ListBox& list, int x, int y);
-/// Units of pointer events for each pixel of the screen.
-double UnitsPerPixelX();
-double UnitsPerPixelY();
 
-/// Shows a menu at the pointer and returns when it is gone; a choice has run its item's click.
+/// Shows a menu at the pointer and returns when it has closed. The chosen item has been clicked.
 void ShowPopupMenu(toolkit::Window& window, toolkit::PopupMenu& menu);
-
-/// Gets the windowing system ready; before the first window. May take its own options out of the
-/// arguments.
-void StartDesktop(int& argumentCount, char** arguments);
-/// Lets the events run that are pending now, and returns.
-void DoEvents();
-/// Runs events until the process ends.
-int RunEventLoop();
 
 }  // namespace desktop

@@ -1,6 +1,6 @@
-// Modal dialogs of the platform: files, folders, messages, one line of text. Each blocks its owner
-// and returns when it has closed. The file and folder records are those of Windows in portable
-// form; members that the system leaves at 0 are not here.
+// Modal dialogs for files, folders, messages and one line of text. Each disables its owner and
+// returns when it has closed. The records are those of Windows in portable form, without the
+// members that Zorvane leaves at 0.
 #pragma once
 
 #include <cstdint>
@@ -12,11 +12,11 @@ class Window;
 
 namespace desktop {
 
-/// Sizes in characters of the buffers that the results come in, all ending NULs included.
+/// Sizes in characters of the buffers for the results, including all final NULs.
 inline constexpr std::uint32_t FileBufferSize = 258;
 inline constexpr std::uint32_t FolderBufferSize = 260;
 
-/// Bits of OpenFileName::Flags, by their Windows values.
+/// Bits of OpenFileName::Flags, with their Windows values.
 inline constexpr std::uint32_t OfnOverwritePrompt = 0x2;
 inline constexpr std::uint32_t OfnHideReadOnly = 0x4;
 inline constexpr std::uint32_t OfnAllowMultiSelect = 0x200;
@@ -26,39 +26,38 @@ inline constexpr std::uint32_t OfnExplorer = 0x80000;
 struct OpenFileName {
     toolkit::Window* hwndOwner = nullptr;
     std::string lpstrFilter;      // display text and pattern in turn, separated by NULs
-    std::string lpstrFile;        // a buffer of nMaxFile NULs that the dialog fills
-    std::uint32_t nMaxFile = 0;   // its size
-    std::string lpstrInitialDir;  // start folder; empty or gone: the platform chooses
+    std::string lpstrFile;        // a buffer of nMaxFile NULs that receives the result
+    std::uint32_t nMaxFile = 0;   // size of that buffer in characters
+    std::string lpstrInitialDir;  // start folder; the system chooses if it is empty or missing
     std::string lpstrTitle;
     std::uint32_t Flags = 0;
 };
 
-/// Shows the dialog. True when the user confirmed and the result fits the buffer: one full path,
-/// or with OfnAllowMultiSelect and several files the folder and the bare names, single NULs
-/// between, two NULs at the end. False on Cancel and for a result of more than nMaxFile - 2
-/// characters. The first entry of the filter is chosen at the start and the name field is empty.
-bool GetOpenFileNameA(OpenFileName& record);
-/// The same for a file to be written. With OfnOverwritePrompt the dialog asks before it gives the
-/// name of a file that is there.
-bool GetSaveFileNameA(OpenFileName& record);
+/// Lets the user choose files to open. The result is one full path or, with OfnAllowMultiSelect and
+/// several files, the folder and the bare names, separated by NULs; two NULs end it. Starts with
+/// the first entry of the filter and an empty name. Returns false on Cancel and if the result has
+/// more than nMaxFile - 2 characters.
+[[nodiscard]] bool GetOpenFileNameA(OpenFileName& record);
+/// The same for a file to write. With OfnOverwritePrompt an existing file has to be confirmed.
+[[nodiscard]] bool GetSaveFileNameA(OpenFileName& record);
 
 struct BrowseInfo {
     toolkit::Window* hwndOwner = nullptr;
     std::string lpszTitle;  // a line of instruction
 };
 
-/// Lets the user choose a folder. Gives its path in a buffer of FolderBufferSize characters, the
-/// rest NULs; an empty text on Cancel; a buffer of NULs for an item that has no path.
-std::string BrowseForFolderPath(const BrowseInfo& info);
+/// Lets the user choose a folder. Returns its path in a buffer of FolderBufferSize characters,
+/// padded with NULs, an empty text on Cancel, or a buffer of NULs for an item without a path.
+[[nodiscard]] std::string BrowseForFolderPath(const BrowseInfo& info);
 
-/// The icons of a message box, by their Windows values.
+/// The icons of a message box, with their Windows values.
 enum class MessageIcon { Critical = 16, Exclamation = 48, Information = 64 };
 
 /// Shows a text with an icon and an OK button over the active window. Lines end in CR LF.
 void ShowMessage(const std::string& text, const std::string& title, MessageIcon icon);
 
-/// Asks for one line. Gives the text of the field, or an empty text on Cancel.
-std::string AskForText(const std::string& prompt, const std::string& title,
-                       const std::string& preset);
+/// Lets the user edit one line of text. Returns it, or an empty text on Cancel.
+[[nodiscard]] std::string AskForText(const std::string& prompt, const std::string& title,
+                                     const std::string& preset);
 
 }  // namespace desktop

@@ -9,14 +9,14 @@ void ItemControl::MoveTo(int row) {
 }
 
 void ItemControl::SetListIndex(int row) {
-    const bool isThere = row >= -1 && row < ListCount();
-    const int target = isThere ? row : -1;
+    const bool exists = row >= -1 && row < ListCount();
+    const int target = exists ? row : -1;
     if (target == index_) {
         return;
     }
     MoveTo(target);
-    if (isThere && OnClick) {
-        OnClick();
+    if (exists) {
+        ReportChange();
     }
 }
 
@@ -24,11 +24,19 @@ void ItemControl::UserSelects(int row) {
     if (row != index_) {
         SetListIndex(row);
     } else if (row >= 0) {
+        // A back end may show another row or text by now: it is set to this one again.
         MoveTo(row);
-        if (OnClick) {
-            OnClick();
-        }
+        ReportChange();
     }
+}
+
+void ItemControl::ReportChange() {
+    StoreValue(index_);
+    Run(OnClick);
+}
+
+void ItemControl::RestoreValue() {
+    SetListIndex(Owner().Spec().values->number(Spec().key));
 }
 
 void ItemControl::AddItem(std::string text) {
@@ -63,12 +71,6 @@ void ItemControl::Reset() {
     index_ = -1;
 }
 
-void ListBox::UserDoubleClicks() {
-    if (OnDoubleClick) {
-        OnDoubleClick();
-    }
-}
-
 void ComboBox::SetText(std::string text) {
     UserTypes(std::move(text));
     Changed(desktop::Property::Selection);
@@ -76,7 +78,7 @@ void ComboBox::SetText(std::string text) {
 }
 
 void ComboBox::UserTypes(std::string text) {
-    ForgetIndex();
+    ClearIndex();
     text_ = std::move(text);
 }
 
@@ -107,12 +109,6 @@ void ListView::Clear() {
     entries_.clear();
     selected_ = -1;
     Changed(desktop::Property::ItemsCleared);
-}
-
-void ListView::UserDoubleClicks() {
-    if (OnDoubleClick) {
-        OnDoubleClick();
-    }
 }
 
 void ListView::Reset() {

@@ -3,33 +3,32 @@
 
 #include <functional>
 #include <string>
-#include <string_view>
 #include <vector>
 
 #include "toolkit/control.h"
 
 namespace toolkit {
 
-/// A list of texts of which at most one is selected, rows counted from 0, -1 for no selection.
+/// A list of texts of which at most one is selected; rows count from 0, and -1 is no selection.
 ///
-/// A new index runs OnClick at once, also when code sets it. An index that the list does not have
-/// selects nothing: the index becomes -1 and nothing runs.
+/// A new index is stored and runs OnClick immediately, also when code sets it. An index outside the
+/// list selects nothing: the index becomes -1, nothing is stored and no handler runs.
 class ItemControl : public Control {
   public:
     int ListCount() const { return static_cast<int>(items_.size()); }
-    /// The text of a row from 0 to ListCount() - 1.
+    /// The text of a row, from 0 to ListCount() - 1.
     const std::string& List(int row) const { return items_[static_cast<std::size_t>(row)]; }
     int ListIndex() const { return index_; }
     void SetListIndex(int row);
 
-    /// Adds a row at the end. The selection stays.
+    /// Appends a row. The selection stays.
     void AddItem(std::string text);
-    /// Takes out one row. The selection stays on its text; when that was it, it becomes -1.
+    /// Removes one row. The selection stays on its text; if that is removed, it becomes -1.
     void RemoveItem(int row);
-    /// Takes out all rows. The index becomes -1, without an event.
+    /// Removes all rows. The index becomes -1, without an event.
     void Clear();
 
-    /// The user chose a row, perhaps the one that was chosen already.
+    /// Called by a back end when the user chose a row. Runs OnClick also for the selected row.
     void UserSelects(int row);
 
     std::function<void()> OnClick;
@@ -37,40 +36,52 @@ class ItemControl : public Control {
   protected:
     using Control::Control;
     void Reset() override;
-    /// Follows the index, before the event runs.
+    void RestoreValue() override;
+    /// Called when the index has changed, before the event.
     virtual void IndexChanged() {}
     /// Selects nothing, without an event and without IndexChanged.
-    void ForgetIndex() { index_ = -1; }
+    void ClearIndex() { index_ = -1; }
 
   private:
     void MoveTo(int row);
+    void ReportChange();
 
     std::vector<std::string> items_;
     int index_ = -1;
 };
 
+enum class MouseButton { Left, Right };
+
 class ListBox : public ItemControl {
   public:
-    ListBox(Window& window, std::string_view name) : ItemControl(window, Kind::ListBox, name) {}
-    void UserDoubleClicks();
+    ListBox(Window& window, const ControlSpec& spec) : ItemControl(window, Kind::ListBox, spec) {}
+    void UserDoubleClicks() { Run(OnDoubleClick); }
+    /// Called by a back end when a mouse button was released over the list; in pixels from its
+    /// upper left corner.
+    void UserReleasesButton(MouseButton button, double x, double y) {
+        Run(OnButtonReleased, button, x, y);
+    }
+
     std::function<void()> OnDoubleClick;
+    std::function<void(MouseButton button, double x, double y)> OnButtonReleased;
 };
 
 class DropDownList : public ItemControl {
   public:
-    DropDownList(Window& window, std::string_view name)
-        : ItemControl(window, Kind::DropDownList, name) {}
+    DropDownList(Window& window, const ControlSpec& spec)
+        : ItemControl(window, Kind::DropDownList, spec) {}
     /// The text of the selected row, empty without one.
     std::string Text() const { return ListIndex() < 0 ? std::string() : List(ListIndex()); }
 };
 
-/// A list with an edit field. Choosing a row puts its text into the field; a text that is typed or
-/// set takes the selection away, without an event. Clearing the list, and losing a selected row,
+/// A list with an edit field. Choosing a row sets the field to its text. A text that is typed or
+/// set clears the selection, without an event. Clearing the list, or removing the selected row,
 /// empties the field.
 class ComboBox : public ItemControl {
   public:
-    ComboBox(Window& window, std::string_view name) : ItemControl(window, Kind::ComboBox, name) {}
+    ComboBox(Window& window, const ControlSpec& spec) : ItemControl(window, Kind::ComboBox, spec) {}
     const std::string& Text() const { return text_; }
+    /// Clears the selection also if the text stays the same.
     void SetText(std::string text);
     void UserTypes(std::string text);
 
@@ -82,7 +93,8 @@ class ComboBox : public ItemControl {
     std::string text_;
 };
 
-/// Rows of two columns of which at most one is selected. Rows count from 1; -1 is no selection.
+/// A list of two columns in which at most one row is selected; rows count from 1, and -1 is no
+/// selection.
 class ListView : public Control {
   public:
     struct Entry {
@@ -90,17 +102,17 @@ class ListView : public Control {
         std::string second;
     };
 
-    ListView(Window& window, std::string_view name) : Control(window, Kind::ListView, name) {}
+    ListView(Window& window, const ControlSpec& spec) : Control(window, Kind::ListView, spec) {}
     int RowCount() const { return static_cast<int>(entries_.size()); }
     const Entry& At(int row) const { return entries_[static_cast<std::size_t>(row - 1)]; }
     int SelectedRow() const { return selected_; }
-    /// A row that is not there selects nothing.
+    /// Selects nothing if there is no such row.
     void SelectRow(int row);
     void AddRow(std::string first, std::string second);
     void Clear();
 
     void UserSelects(int row) { SelectRow(row); }
-    void UserDoubleClicks();
+    void UserDoubleClicks() { Run(OnDoubleClick); }
     std::function<void()> OnDoubleClick;
 
   protected:

@@ -1,6 +1,7 @@
 #include "toolkit/menu.h"
 
 #include "toolkit/desktop.h"
+#include "toolkit/events.h"
 
 namespace toolkit {
 
@@ -9,8 +10,8 @@ MenuItem::MenuItem(PopupMenu& menu, std::string caption) : caption_(std::move(ca
 }
 
 void MenuItem::UserClicks() {
-    if (enabled_ && OnClick) {
-        OnClick();
+    if (enabled_) {
+        Run(OnClick);
     }
 }
 

@@ -22,7 +22,7 @@ class MenuItem {
     bool Enabled() const { return enabled_; }
     void SetEnabled(bool enabled) { enabled_ = enabled; }
 
-    /// The user chose the item; nothing happens when it is disabled.
+    /// Called by a back end when the user chose the item. Runs OnClick if the item is enabled.
     void UserClicks();
     std::function<void()> OnClick;
 
@@ -40,7 +40,7 @@ class PopupMenu {
 
     const std::string& Caption() const { return caption_; }
     const std::vector<MenuItem*>& Items() const { return items_; }
-    /// Shows the menu over `window` and returns when it is gone.
+    /// Shows the menu over `window` and returns when it has closed.
     void PopUp(Window& window);
 
   private:

@@ -9,15 +9,13 @@ void Window::Load() {
     if (loaded_) {
         return;
     }
-    caption_ = table_.caption;
+    caption_ = spec_.caption;
     for (Control* control : controls_) {
         control->Reset();
     }
     loaded_ = true;
     desktop::LoadWindow(*this);
-    if (OnLoad) {
-        OnLoad();
-    }
+    Run(OnLoad);
 }
 
 void Window::Unload() {
@@ -47,9 +45,7 @@ void Window::ShowModal() {
     if (visible_) {
         return;
     }
-    if (OnShowModal) {
-        OnShowModal();
-    }
+    Run(OnShowModal);
     visible_ = true;
     desktop::RunModal(*this);
 }
@@ -65,24 +61,11 @@ void Window::SetCaption(std::string caption) {
     }
 }
 
-Control* Window::Find(std::string_view name) const {
+void Window::RestoreValues() {
     for (Control* control : controls_) {
-        if (control->Spec().name == name) {
-            return control;
+        if (!control->Spec().key.empty()) {
+            control->RestoreValue();
         }
-    }
-    return nullptr;
-}
-
-void Window::UserCloses() {
-    if (OnCloseRequest) {
-        OnCloseRequest();
-    }
-}
-
-void Window::UserMovesPointer() {
-    if (OnPointerMoved) {
-        OnPointerMoved();
     }
 }
 

@@ -1,110 +1,84 @@
-// A window is a table of rows and an object with one member for each control. Nothing here draws.
+// A window is an object whose members are its controls, in the window's order. Nothing here draws.
 #pragma once
 
 #include <functional>
-#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
+
+#include "toolkit/events.h"
 
 namespace toolkit {
 
 class Control;
 
-/// A rectangle in dialog units: across a quarter of the average width of a character of the
-/// desktop's font, down an eighth of the font's height.
-struct Place {
-    int x = 0;
-    int y = 0;
-    int width = 0;
-    int height = 0;
+/// Where the controls with a settings key keep their values.
+struct ValueStore {
+    int (*number)(std::string_view key);
+    std::string (*text)(std::string_view key);
+    void (*storeNumber)(std::string_view key, int number);
+    void (*storeText)(std::string_view key, const std::string& text);
 };
 
-/// What a row of a window table may say beside name, caption and place.
-enum Flag : unsigned {
-    Default = 1U << 0,   // the Enter key presses this button
-    Cancel = 1U << 1,    // the Escape key presses this button
-    Accent = 1U << 2,    // a button in the colour of the program
-    Bold = 1U << 3,      // a label in bold type
-    Title = 1U << 4,     // a label in large bold type on the title band
-    Small = 1U << 5,     // a label in small type on the title band, set against its right edge
-    Link = 1U << 6,      // a label in blue and underlined, with a hand over it
-    Sunken = 1U << 7,    // a label with a border, broken into lines
-    Quiet = 1U << 8,     // a label in a weaker colour
-    IsPath = 1U << 9,    // a text box that holds a path, shown as the system writes paths
-    Follows = 1U << 10,  // a label as wide as its text, right behind the text of the row before
-};
-
-/// One control of a window, as data.
-struct ControlSpec {
-    std::string_view name;
-    std::string_view caption = {};  // the heads of a list view's two columns, "|" between
-    Place place;
-    int tab = -1;                   // place in the tab order, -1 for none
-    unsigned flags = 0;             // of Flag
-    std::string_view key = {};      // settings key that the control mirrors
-    std::string_view names = {};    // label: the control that it names for a screen reader
-    std::string_view picture = {};  // picture by name, from our own art
-    std::string_view spoken = {};   // accessible name of a control without caption or label
-};
-
-/// One window, as data. Its size is fixed.
+/// One window: everything but its controls. Its size is fixed.
 struct WindowSpec {
-    std::string_view name;
-    std::string_view caption;
-    int width = 0;        // dialog units, without the frame
-    int height = 0;       // dialog units
-    bool dialog = false;  // no minimise button, no entry in the task bar, centred on the screen
-    std::span<const ControlSpec> rows;
+    std::string_view caption = {};
+    int width = 0;                       // in dialog units, without the frame
+    int height = 0;                      // in dialog units
+    bool dialog = false;                 // no minimise button and no entry in the task bar
+    const ValueStore* values = nullptr;  // needed by a window that has a control with a key
 };
 
-/// A window of the system: hidden or shown, never destroyed by the user.
+/// A window of the program: hidden or shown, never destroyed by the user.
 class Window {
   public:
-    explicit Window(const WindowSpec& table) : table_(table), caption_(table.caption) {}
+    explicit Window(const WindowSpec& spec) : spec_(spec), caption_(spec.caption) {}
     Window(const Window&) = delete;
     Window& operator=(const Window&) = delete;
     ~Window() = default;
 
-    /// Takes the state of the table, makes the native window, hidden, and runs OnLoad.
+    /// Resets the window and its controls to their declarations, creates the native window, hidden,
+    /// and runs OnLoad.
     void Load();
-    /// Takes the native window away. Has no effect on a window that is not loaded.
+    /// Destroys the native window. No-op for a window that is not loaded.
     void Unload();
     bool Loaded() const { return loaded_; }
 
     void Show();
     void Hide();
     bool Visible() const { return visible_; }
-    /// Runs OnShowModal, shows the window modally and returns when it has been hidden. Nothing
-    /// happens if the window is visible already.
+    /// Runs OnShowModal, shows the window modally and returns when it has been hidden. No-op if the
+    /// window is already visible.
     void ShowModal();
-    /// Draws the whole window at once.
+    /// Draws the whole window immediately.
     void Repaint();
 
     const std::string& Caption() const { return caption_; }
     void SetCaption(std::string caption);
 
-    const WindowSpec& Spec() const { return table_; }
-    /// The window's controls in the order of its class, which need not be that of the table.
-    const std::vector<Control*>& Controls() const { return controls_; }
-    /// The control of that name, null when there is none.
-    Control* Find(std::string_view name) const;
+    /// Sets every control with a settings key to its stored value, in the window's order.
+    void RestoreValues();
 
-    /// What a back end reports: the user asks to close the window, or the pointer moved over the
-    /// window's own surface.
-    void UserCloses();
-    void UserMovesPointer();
+    const WindowSpec& Spec() const { return spec_; }
+    /// The window's controls in the order of their declaration.
+    const std::vector<Control*>& Controls() const { return controls_; }
+
+    /// Called by a back end when the user asks to close the window.
+    void UserCloses() { Run(OnCloseRequest); }
+    /// Called by a back end when the pointer moved over the window's own surface.
+    void UserMovesPointer() { Run(OnTip, ""); }
 
     std::function<void()> OnLoad;
     std::function<void()> OnShowModal;
-    /// A close request. The window stays; what is to happen is the handler's business.
+    /// The user asked to close the window. The window stays: what happens is up to the handler.
     std::function<void()> OnCloseRequest;
-    std::function<void()> OnPointerMoved;
+    /// The pointer moved over a control with a tip, or over the window itself: then it is empty.
+    std::function<void(std::string_view tip)> OnTip;
 
   private:
     friend class Control;
 
-    const WindowSpec& table_;
+    const WindowSpec spec_;
     std::string caption_;
     std::vector<Control*> controls_;
     bool loaded_ = false;

@@ -67,10 +67,10 @@ void Choose(toolkit::ItemControl& list, const std::string& name) {
 /// Turns two switches on in the next dialog of options.
 void SetOptionsNext(const std::string& picture) {
     driver::InNextModal([picture] {
-        for (const auto& box : frmEngineSettings.chkOptions) {
-            const std::string caption = driver::ShownText(*box);
+        for (auto& box : frmEngineSettings.chkOptions) {
+            const std::string caption = driver::ShownText(box);
             if (caption == "Run in a window" || caption == "No error message windows") {
-                driver::Click(*box);
+                driver::Click(box);
             }
         }
         Picture(picture);

@@ -21,7 +21,7 @@ TEST_F(Journey, FromNothingToTheSecondRun) {
         memory::machine.folders = {folder.Path("ports")};
         driver::Click(frmSetup.cmdPath);
         driver::InNextModal([] {
-            driver::Click(*frmEngineSettings.chkOptions[1]);
+            driver::Click(frmEngineSettings.chkOptions[1]);
             driver::PressEnter(frmEngineSettings);
         });
         driver::DoubleClick(frmSetup.lvwEngines, 1);

@@ -105,7 +105,7 @@ TEST_F(Lists, TheMenuOfFilesNeedsASelectedRow) {
     driver::AtNextMenu(1);
     driver::RightClick(frmMain.lstFiles, 0);
     EXPECT_EQ(frmMain.lstFiles.ListIndex(), 0);
-    EXPECT_EQ(driver::Focused(frmMain), "lstFiles");
+    EXPECT_EQ(driver::Focused(frmMain), &frmMain.lstFiles);
     EXPECT_TRUE(memory::machine.started.at(0).file.ends_with("\\a.txt"));
     EXPECT_EQ(memory::machine.started[0].show, 7);
     memory::machine.accepts = false;

@@ -30,7 +30,7 @@ class QtWindow : public testing::Test {
 TEST_F(QtWindow, TellsItsNamesAndTakesKeys) {
     EXPECT_EQ(WidgetOf(form.lstRows).accessibleName().toStdString(), "Files & more");
     EXPECT_EQ(WidgetOf(form.cmdNo).accessibleName().toStdString(), "No");
-    EXPECT_EQ(driver::Focused(form), "lstRows");
+    EXPECT_EQ(driver::Focused(form), &form.lstRows);
     form.lstRows.AddItem("a");
     QTest::keyClick(&WidgetOf(form.lstRows), Qt::Key_Down);
     EXPECT_EQ(form.lstRows.ListIndex(), 0);

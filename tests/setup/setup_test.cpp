@@ -136,11 +136,11 @@ TEST_F(SetupCase, SetsTheFolderOfTheSelectedEngine) {
 }
 
 TEST_F(SetupCase, OptionsShowAndFollowEachEngine) {
-    const auto& boxes = frmEngineSettings.chkOptions;
+    auto& boxes = frmEngineSettings.chkOptions;
     driver::InNextModal([&] {
-        EXPECT_TRUE(boxes[15]->Visible());
-        driver::Click(*boxes[15]);
-        driver::Click(*boxes[1]);
+        EXPECT_TRUE(boxes[15].Visible());
+        driver::Click(boxes[15]);
+        driver::Click(boxes[1]);
         EXPECT_EQ(frmEngineSettings.lblParameters.Caption(), "-switch2 -switch16");
         driver::PressEscape(frmEngineSettings);
     });
@@ -148,9 +148,9 @@ TEST_F(SetupCase, OptionsShowAndFollowEachEngine) {
     driver::Click(frmMain.cmdSettings);
     InSetup([&] {
         driver::InNextModal([&] {
-            EXPECT_TRUE(boxes[2]->Visible() && !boxes[3]->Visible());
-            EXPECT_FALSE(boxes[1]->Checked());
-            EXPECT_EQ(boxes[1]->Caption(), "Caption 2");
+            EXPECT_TRUE(boxes[2].Visible() && !boxes[3].Visible());
+            EXPECT_FALSE(boxes[1].Checked());
+            EXPECT_EQ(boxes[1].Caption(), "Caption 2");
             EXPECT_EQ(frmEngineSettings.lblParameters.Caption(), "");
             driver::Close(frmEngineSettings);
         });

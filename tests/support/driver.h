@@ -49,14 +49,14 @@ Look LookAt(const toolkit::Control& control);
 /// The caption on the frame of a window, nothing while the window is hidden.
 std::string ShownCaption(const toolkit::Window& window);
 
-/// Name of the control that has the focus, empty when none has it.
-inline std::string Focused(const toolkit::Window& window) {
+/// The control that has the focus, null if none has it.
+inline const toolkit::Control* Focused(const toolkit::Window& window) {
     for (const toolkit::Control* control : window.Controls()) {
         if (LookAt(*control).focused) {
-            return std::string(control->Spec().name);
+            return control;
         }
     }
-    return {};
+    return nullptr;
 }
 inline void Click(toolkit::Control& control) {
     Use(Mouse::Click, control);

@@ -44,13 +44,6 @@ void ShowWindow(toolkit::Window& window) {
 void HideWindow(toolkit::Window&) {}
 void RepaintWindow(toolkit::Window&) {}
 void CaptionChanged(toolkit::Window&) {}
-double UnitsPerPixelX() {
-    return 1;
-}
-double UnitsPerPixelY() {
-    return 1;
-}
-
 void RunModal(toolkit::Window& window) {
     toolkit::Control* opener = focused;
     focused = NextInTabOrder(window, -1);
@@ -94,7 +87,7 @@ void Use(Mouse gesture, toolkit::Control& control, int row) {
     if (gesture == Mouse::Move) {
         control.UserMovesPointer(1, height);
     } else if (gesture == Mouse::RightClick) {
-        control.UserReleasesButton(2, 1, height);
+        As<toolkit::ListBox>(control)->UserReleasesButton(toolkit::MouseButton::Right, 1, height);
     } else if (auto* box = As<toolkit::CheckBox>(control)) {
         box->UserChecks(!box->Checked());
     } else if (auto* label = As<toolkit::Label>(control)) {

@@ -81,8 +81,8 @@ void SetUp() {
     TakePicture(Find("Program setup"), "setup");
     Press(Find(frmSetup.cmdEngineSettings));
     frmEngineSettings.SetCaption("Engine settings of Chocolate Doom");
-    Press(Find(*frmEngineSettings.chkOptions[4]));
-    Press(Find(*frmEngineSettings.chkOptions[0]));
+    Press(Find(frmEngineSettings.chkOptions[4]));
+    Press(Find(frmEngineSettings.chkOptions[0]));
     WaitUntil([] { return TextOf(Find(frmEngineSettings.lblParameters)) == "-nosound -window"; },
               "the preview of the options");
     TakePicture(Find(frmEngineSettings.Caption()), "engine-settings");

@@ -89,7 +89,7 @@ HWND Find(const std::string& caption, const wchar_t* className) {
 
 HWND Find(const toolkit::Control& control) {
     const toolkit::Window& owner = control.Owner();
-    return GetDlgItem(Find(owner.Caption()), desktop::ControlId(owner.Spec(), control.Spec()));
+    return GetDlgItem(Find(owner.Caption()), desktop::ControlId(control));
 }
 
 void Press(HWND button) {

@@ -92,7 +92,7 @@ class AccentButtonWidget final : public ButtonWidget {
 }  // namespace
 
 NativeControl* MakeButton(toolkit::Button& button, QWidget& parent) {
-    if (button.GetKind() == toolkit::Kind::PictureButton) {
+    if (!button.Spec().picture.empty()) {
         return new PictureButtonWidget(button, parent);
     }
     if (button.Has(toolkit::Accent)) {

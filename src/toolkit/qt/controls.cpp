@@ -21,7 +21,6 @@ NativeControl* MakeControl(toolkit::Control& control, QWidget& parent) {
         case Kind::Label:
             return MakeLabel(static_cast<toolkit::Label&>(control), parent);
         case Kind::Button:
-        case Kind::PictureButton:
             return MakeButton(static_cast<toolkit::Button&>(control), parent);
         case Kind::CheckBox:
             return MakeCheckBox(static_cast<toolkit::CheckBox&>(control), parent);

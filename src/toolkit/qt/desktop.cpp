@@ -160,14 +160,6 @@ std::uint32_t ItemFromPoint(const toolkit::ListBox& list, int x, int y) {
 }
 
 /// Qt's own units serve for pointer positions and for ItemFromPoint alike.
-double UnitsPerPixelX() {
-    return 1;
-}
-
-double UnitsPerPixelY() {
-    return 1;
-}
-
 void StartDesktop(int& argumentCount, char** arguments) {
     // Never destroyed: a process that ends with windows open has no good moment for that.
     [[maybe_unused]] static const auto* const application =

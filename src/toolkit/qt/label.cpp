@@ -28,8 +28,7 @@ class LabelWidget final : public QLabel, public NativeControl {
     void Apply(Property property, int) override {
         if (property == Property::Caption) {
             const QString shown = Shown(label_.Caption());
-            // With a control to name, a QLabel takes "&" for an access key.
-            setText(label_.Spec().names.empty() ? shown : WithoutAccessKeys(shown));
+            setText(buddy() == nullptr ? shown : WithoutAccessKeys(shown));
         }
     }
 

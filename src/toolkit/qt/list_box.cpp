@@ -37,7 +37,6 @@ class ListBoxWidget final : public QListView, public NativeControl {
 
     QWidget& Widget() override { return *this; }
     QWidget& Surface() override { return *viewport(); }
-    bool ReportsButtons() const override { return true; }
 
     void Apply(Property property, int row) override {
         const QScopedValueRollback silence(silent_, true);
@@ -77,10 +76,9 @@ class ListBoxWidget final : public QListView, public NativeControl {
                 ReportSelection();
             }
         }
-        const int button = event->button() == Qt::LeftButton    ? 1
-                           : event->button() == Qt::RightButton ? 2
-                                                                : 0;
-        if (button != 0) {
+        if (event->button() == Qt::LeftButton || event->button() == Qt::RightButton) {
+            const auto button = event->button() == Qt::LeftButton ? toolkit::MouseButton::Left
+                                                                  : toolkit::MouseButton::Right;
             list_.UserReleasesButton(button, event->position().x(), event->position().y());
         }
     }

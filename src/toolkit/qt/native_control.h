@@ -22,8 +22,6 @@ class NativeControl {
     /// Draws an property that the kind has of its own: caption, text, state, selection, items.
     /// Reports nothing.
     virtual void Apply(Property property, int row) = 0;
-    /// Whether it tells of released mouse buttons itself.
-    virtual bool ReportsButtons() const { return false; }
 };
 
 /// Makes the widget of a control, with the content that the control has now.

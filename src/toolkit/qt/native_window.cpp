@@ -48,15 +48,10 @@ Qt::WindowFlags FlagsOf(const toolkit::WindowSpec& table) {
     return table.dialog ? Qt::Dialog | common : Qt::Window | Qt::WindowMinimizeButtonHint | common;
 }
 
-QString NameOf(std::string_view name) {
-    return QString::fromLatin1(name.data(), static_cast<qsizetype>(name.size()));
-}
-
 }  // namespace
 
 NativeWindow::NativeWindow(toolkit::Window& window)
     : QWidget(nullptr, FlagsOf(window.Spec())), window_(window) {
-    setObjectName(NameOf(window.Spec().name));
     setWindowTitle(Shown(window.Caption()));
     setMouseTracking(true);
     MakeControls(true);
@@ -67,9 +62,8 @@ NativeWindow::NativeWindow(toolkit::Window& window)
 }
 
 void NativeWindow::MakeControls(bool underneath) {
-    for (const toolkit::ControlSpec& row : window_.Spec().rows) {
-        toolkit::Control* control = window_.Find(row.name);
-        if (control != nullptr && StandsUnderneath(control->GetKind()) == underneath) {
+    for (toolkit::Control* control : window_.Controls()) {
+        if (StandsUnderneath(control->GetKind()) == underneath) {
             Add(*control);
         }
     }
@@ -79,7 +73,6 @@ void NativeWindow::Add(toolkit::Control& control) {
     NativeControl* native = MakeControl(control, *this);
     natives_.emplace(&control, native);
     QWidget& widget = native->Widget();
-    widget.setObjectName(NameOf(control.Spec().name));
     // What moves over a control is not for the window beneath it.
     widget.setAttribute(Qt::WA_NoMousePropagation);
     if (control.Spec().tab < 0) {
@@ -102,16 +95,11 @@ void NativeWindow::Add(toolkit::Control& control) {
 
 void NativeWindow::PlaceControls() {
     const UnitSize unit = UnitsOf(font());
-    const toolkit::WindowSpec& table = window_.Spec();
-    setFixedSize(InPixels({0, 0, table.width, table.height}, unit).size());
+    setFixedSize(InPixels({0, 0, window_.Spec().width, window_.Spec().height}, unit).size());
     const QWidget* before = nullptr;
-    for (const toolkit::ControlSpec& row : table.rows) {
-        const toolkit::Control* control = window_.Find(row.name);
-        if (control == nullptr) {
-            continue;
-        }
+    for (const toolkit::Control* control : window_.Controls()) {
         QWidget& widget = Find(*control).Widget();
-        QRect place = InPixels(row.place, unit);
+        QRect place = InPixels(control->Spec().place, unit);
         if (control->Has(toolkit::Follows) && before != nullptr) {
             // Only here is a text measured: it costs a good part of the start.
             place.moveLeft(before->x() + before->sizeHint().width());
@@ -142,18 +130,19 @@ void NativeWindow::SetTabOrder() {
     }
 }
 
-/// For a screen reader: a label names its control, and a control without either tells its own name.
+/// Names the controls for a screen reader.
 void NativeWindow::NameControls() {
-    for (toolkit::Control* control : window_.Controls()) {
-        const toolkit::ControlSpec& row = control->Spec();
-        if (!row.spoken.empty()) {
-            Find(*control).Widget().setAccessibleName(Decode(row.spoken));
-        }
-        const toolkit::Control* named = row.names.empty() ? nullptr : window_.Find(row.names);
-        auto* label = dynamic_cast<QLabel*>(&Find(*control).Widget());
-        if (named != nullptr && label != nullptr) {
-            label->setBuddy(&Find(*named).Widget());
-            Find(*named).Widget().setAccessibleName(Decode(control->Caption()));
+    for (const toolkit::Control* control : window_.Controls()) {
+        const toolkit::ControlSpec& spec = control->Spec();
+        QWidget& widget = Find(*control).Widget();
+        if (spec.label != nullptr) {
+            NativeControl& label = Find(*spec.label);
+            static_cast<QLabel&>(label.Widget()).setBuddy(&widget);
+            // A label with a buddy takes "&" for an access key.
+            label.Apply(Property::Caption, -1);
+            widget.setAccessibleName(Decode(spec.label->Caption()));
+        } else if (!spec.accessibleName.empty()) {
+            widget.setAccessibleName(Decode(spec.accessibleName));
         }
     }
 }
@@ -181,10 +170,6 @@ bool NativeWindow::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::MouseMove || event->type() == QEvent::Enter) {
         const QPointF at = static_cast<QSinglePointEvent*>(event)->position();
         control->UserMovesPointer(at.x(), at.y());
-    } else if (event->type() == QEvent::MouseButtonRelease && !Find(*control).ReportsButtons()) {
-        const auto* mouse = static_cast<QMouseEvent*>(event);
-        const int button = mouse->button() == Qt::LeftButton ? 1 : 2;
-        control->UserReleasesButton(button, mouse->position().x(), mouse->position().y());
     }
     return false;
 }

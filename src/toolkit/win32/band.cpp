@@ -1,7 +1,7 @@
 #include "toolkit/win32/band.h"
 
 #include "platform/win32/windows_headers.h"
-#include "toolkit/window.h"
+#include "toolkit/control.h"
 
 namespace desktop {
 namespace {
@@ -29,9 +29,9 @@ Source LoadSource(int height) {
 }  // namespace
 
 void Band::Lay(const toolkit::Window& window, const Metrics& metrics) {
-    for (const toolkit::ControlSpec& row : window.Spec().rows) {
-        if (row.picture == BandPicture) {
-            place_ = metrics.Pixels(row.place);
+    for (const toolkit::Control* control : window.Controls()) {
+        if (control->Spec().picture == BandPicture) {
+            place_ = metrics.Pixels(control->Spec().place);
             brush_.reset();
         }
     }

@@ -22,7 +22,7 @@ class NativeButton : public NativeControl {
   private:
     static DWORD StyleOf(const toolkit::Button& button) {
         const DWORD kind = button.Has(toolkit::Default) ? BS_DEFPUSHBUTTON : BS_PUSHBUTTON;
-        return kind | (button.GetKind() == toolkit::Kind::PictureButton ? BS_ICON : 0);
+        return kind | (button.Spec().picture.empty() ? 0 : BS_ICON);
     }
 
     toolkit::Button& button_;
@@ -30,7 +30,7 @@ class NativeButton : public NativeControl {
 };
 
 void NativeButton::OnLaid() {
-    if (button_.GetKind() == toolkit::Kind::PictureButton) {
+    if (!button_.Spec().picture.empty()) {
         constexpr int Size = 16;
         OwnedIcon icon = LoadPicture(button_.Spec().picture, Sizes().Scaled(Size));
         Send(BM_SETIMAGE, IMAGE_ICON, reinterpret_cast<LPARAM>(icon.get()));
@@ -46,7 +46,7 @@ void NativeButton::OnCommand(WORD code) {
 
 std::wstring NativeButton::CaptionText() const {
     // Under a picture the text is not seen but spoken.
-    return button_.Caption().empty() ? platform::Wide(button_.Spec().spoken)
+    return button_.Caption().empty() ? platform::Wide(button_.Spec().accessibleName)
                                      : WithoutMnemonics(button_.Caption());
 }
 

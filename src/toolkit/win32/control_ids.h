@@ -1,19 +1,19 @@
 // How another program finds our windows and controls: a window by its class and caption, a control
-// by its number, which is its row in the table of its window.
+// by its number.
 #pragma once
 
-#include "toolkit/window.h"
+#include "toolkit/control.h"
 
 namespace desktop {
 
 inline constexpr wchar_t WindowClassName[] = L"ZorvaneWindow";
 
-/// The numbers below are those of Windows itself, such as IDOK and IDCANCEL.
+/// Smaller numbers are those of Windows itself, such as IDOK and IDCANCEL.
 inline constexpr int FirstControlId = 100;
 
-/// Number of the control that `row`, an element of the table, describes.
-inline int ControlId(const toolkit::WindowSpec& table, const toolkit::ControlSpec& row) {
-    return FirstControlId + static_cast<int>(&row - table.rows.data());
+/// The number of a control, which follows its position in the window.
+inline int ControlId(const toolkit::Control& control) {
+    return FirstControlId + control.Index();
 }
 
 }  // namespace desktop

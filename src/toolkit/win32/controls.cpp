@@ -19,12 +19,14 @@ std::unique_ptr<NativeControl> MakeAnyButton(NativeWindow& parent, toolkit::Butt
                                        : MakeButton(parent, button);
 }
 
-/// The control in whose place of the order a control stands: itself, or for a label the one that it
-/// names.
-const toolkit::Control& Leading(const toolkit::Window& window, const toolkit::Control& control) {
-    const toolkit::Control* named =
-        control.Spec().names.empty() ? nullptr : window.Find(control.Spec().names);
-    return named != nullptr ? *named : control;
+/// The control that `label` names, or `label` itself if it names none.
+const toolkit::Control& NamedBy(const toolkit::Control& label) {
+    for (const toolkit::Control* control : label.Owner().Controls()) {
+        if (control->Spec().label == &label) {
+            return *control;
+        }
+    }
+    return label;
 }
 
 }  // namespace
@@ -34,7 +36,6 @@ std::unique_ptr<NativeControl> MakeControl(NativeWindow& parent, toolkit::Contro
         case toolkit::Kind::Label:
             return MakeLabel(parent, As<toolkit::Label>(control));
         case toolkit::Kind::Button:
-        case toolkit::Kind::PictureButton:
             return MakeAnyButton(parent, As<toolkit::Button>(control));
         case toolkit::Kind::CheckBox:
             return MakeCheckBox(parent, As<toolkit::CheckBox>(control));
@@ -71,15 +72,13 @@ bool IsInTabOrder(const toolkit::Control& control) {
 }
 
 std::vector<toolkit::Control*> InStackingOrder(const toolkit::Window& window) {
-    const toolkit::ControlSpec* first = window.Spec().rows.data();
-    // Layer, place in it, and the label before what it names.
-    const auto key = [&](const toolkit::Control* control) {
-        const toolkit::Control& leading = Leading(window, *control);
-        const int row = static_cast<int>(&control->Spec() - first);
-        if (IsInTabOrder(leading)) {
-            return std::tuple(0, leading.Spec().tab, &leading == control ? 1 : 0);
+    // Layer, position in it, and the label before the control that it names.
+    const auto key = [](const toolkit::Control* control) {
+        const toolkit::Control& named = NamedBy(*control);
+        if (IsInTabOrder(named)) {
+            return std::tuple(0, named.Spec().tab, &named == control ? 1 : 0);
         }
-        return std::tuple(control->GetKind() == toolkit::Kind::Frame ? 2 : 1, -row, 0);
+        return std::tuple(control->GetKind() == toolkit::Kind::Frame ? 2 : 1, -control->Index(), 0);
     };
     std::vector<toolkit::Control*> controls = window.Controls();
     std::ranges::stable_sort(controls, {}, key);

@@ -90,12 +90,4 @@ std::uint32_t ItemFromPoint(const toolkit::ListBox& list, int x, int y) {
     return y < place.bottom ? answer : answer | Outside;
 }
 
-double UnitsPerPixelX() {
-    return 1.0;
-}
-
-double UnitsPerPixelY() {
-    return 1.0;
-}
-
 }  // namespace desktop

@@ -1,6 +1,7 @@
 #include "toolkit/win32/event_loop.h"
 
 #include "toolkit/desktop.h"
+#include "toolkit/lists.h"
 #include "toolkit/win32/native_windows.h"
 
 namespace desktop {
@@ -24,10 +25,12 @@ void TellOfPointer(const MSG& message) {
     toolkit::Control& control = native->Shown();
     if (message.message == WM_MOUSEMOVE) {
         control.UserMovesPointer(Across(message), Down(message));
-    } else if (message.message == WM_LBUTTONUP) {
-        control.UserReleasesButton(1, Across(message), Down(message));
-    } else if (message.message == WM_RBUTTONUP) {
-        control.UserReleasesButton(2, Across(message), Down(message));
+    } else if (message.message == WM_LBUTTONUP || message.message == WM_RBUTTONUP) {
+        if (auto* list = dynamic_cast<toolkit::ListBox*>(&control)) {
+            const auto button = message.message == WM_LBUTTONUP ? toolkit::MouseButton::Left
+                                                                : toolkit::MouseButton::Right;
+            list->UserReleasesButton(button, Across(message), Down(message));
+        }
     }
 }
 

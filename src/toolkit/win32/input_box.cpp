@@ -1,30 +1,12 @@
-// Windows has no box that asks for a line: this is a window like the others.
+// Windows has no input box, so this one is made with the toolkit.
 #include "toolkit/control.h"
 #include "toolkit/dialogs.h"
 
 namespace desktop {
 namespace {
 
-constexpr toolkit::ControlSpec rows[] = {
-    {.name = "lblPrompt", .caption = "", .place = {7, 7, 246, 40}, .names = "txtLine"},
-    {.name = "txtLine", .caption = "", .place = {7, 51, 246, 14}, .tab = 0},
-    {.name = "cmdOK",
-     .caption = "OK",
-     .place = {147, 73, 50, 14},
-     .tab = 1,
-     .flags = toolkit::Default},
-    {.name = "cmdCancel",
-     .caption = "Cancel",
-     .place = {203, 73, 50, 14},
-     .tab = 2,
-     .flags = toolkit::Cancel},
-};
-
-constexpr toolkit::WindowSpec table = {
-    .name = "InputBox", .caption = "", .width = 260, .height = 94, .dialog = true, .rows = rows};
-
 struct InputBox : toolkit::Window {
-    InputBox() : Window(table) {
+    InputBox() : Window({.width = 260, .height = 94, .dialog = true}) {
         cmdOK.OnClick = [this] {
             answer = txtLine.Text();
             Hide();
@@ -33,10 +15,14 @@ struct InputBox : toolkit::Window {
         OnCloseRequest = [this] { Hide(); };
     }
 
-    toolkit::Label lblPrompt{*this, "lblPrompt"};
-    toolkit::TextBox txtLine{*this, "txtLine"};
-    toolkit::Button cmdOK{*this, "cmdOK"};
-    toolkit::Button cmdCancel{*this, "cmdCancel"};
+    toolkit::Label lblPrompt{*this, {.place = {7, 7, 246, 40}}};
+    toolkit::TextBox txtLine{*this, {.place = {7, 51, 246, 14}, .tab = 0, .label = &lblPrompt}};
+    // clang-format off
+    toolkit::Button cmdOK{*this, {
+        .caption = "OK", .place = {147, 73, 50, 14}, .tab = 1, .flags = toolkit::Default}};
+    toolkit::Button cmdCancel{*this, {
+        .caption = "Cancel", .place = {203, 73, 50, 14}, .tab = 2, .flags = toolkit::Cancel}};
+    // clang-format on
     std::string answer;
 };
 

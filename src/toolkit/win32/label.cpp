@@ -10,7 +10,7 @@ constexpr COLORREF OnBandSmall = RGB(0xf0, 0xd4, 0xc8);
 constexpr COLORREF LinkText = RGB(0x00, 0x5a, 0xb8);
 constexpr COLORREF QuietText = RGB(0x50, 0x4a, 0x46);  // 8 to 1 on the grey of a window
 
-Face FaceOf(const toolkit::ControlSpec& row) {
+Face FaceOf(const toolkit::Control& label) {
     constexpr struct {
         toolkit::Flag flag;
         Face face;
@@ -21,39 +21,41 @@ Face FaceOf(const toolkit::ControlSpec& row) {
         {toolkit::Link, Face::Link},
     };
     for (const auto& [flag, face] : faces) {
-        if ((row.flags & flag) != 0) {
+        if (label.Has(flag)) {
             return face;
         }
     }
     return Face::Body;
 }
 
-/// Where the text of a label begins across; one that follows another begins behind that one's text.
-int TextStart(const toolkit::Control& label, const Metrics& metrics) {
-    if (label.Has(toolkit::Follows)) {
-        const toolkit::ControlSpec& before = *(&label.Spec() - 1);
-        if (const toolkit::Control* followed = label.Owner().Find(before.name)) {
-            return TextStart(*followed, metrics) +
-                   metrics.TextWidth(FaceOf(before), followed->Caption());
-        }
-    }
-    return static_cast<int>(metrics.Pixels(label.Spec().place).left);
+/// The control after (1) or before (-1) a control in its window; null if there is none.
+const toolkit::Control* Neighbour(const toolkit::Control& control, int distance) {
+    const auto& controls = control.Owner().Controls();
+    const auto index = static_cast<std::size_t>(control.Index() + distance);
+    return index < controls.size() ? controls[index] : nullptr;
 }
 
-/// Whether a label is as wide as its text, so that others can stand beside it and only the text of
-/// a link is a link.
+/// Horizontal start of a label's text. A label that follows another starts where its text ends.
+int TextStart(const toolkit::Control& label, const Metrics& metrics) {
+    const toolkit::Control* before = label.Has(toolkit::Follows) ? Neighbour(label, -1) : nullptr;
+    if (before == nullptr) {
+        return static_cast<int>(metrics.Pixels(label.Spec().place).left);
+    }
+    return TextStart(*before, metrics) + metrics.TextWidth(FaceOf(*before), before->Caption());
+}
+
+/// Whether a label is only as wide as its text: other labels may follow it, and only the text of a
+/// link is a link.
 bool FitsItsText(const toolkit::Control& label) {
-    const toolkit::ControlSpec* next = &label.Spec() + 1;
-    const auto rows = label.Owner().Spec().rows;
-    const bool isFollowed =
-        next != rows.data() + rows.size() && (next->flags & toolkit::Follows) != 0;
+    const toolkit::Control* next = Neighbour(label, 1);
+    const bool isFollowed = next != nullptr && next->Has(toolkit::Follows);
     return isFollowed || label.Has(toolkit::Follows) || label.Has(toolkit::Link);
 }
 
 class NativeLabel : public NativeControl {
   public:
     NativeLabel(NativeWindow& parent, toolkit::Label& label)
-        : NativeControl(parent, label, {WC_STATICW, StyleOf(label), 0, FaceOf(label.Spec())}),
+        : NativeControl(parent, label, {WC_STATICW, StyleOf(label), 0, FaceOf(label)}),
           label_(label) {}
 
     HBRUSH Colours(HDC context) override;
@@ -89,7 +91,7 @@ RECT NativeLabel::Place() const {
     RECT place = NativeControl::Place();
     if (FitsItsText(label_)) {
         place.left = TextStart(label_, Sizes());
-        place.right = place.left + Sizes().TextWidth(FaceOf(label_.Spec()), label_.Caption());
+        place.right = place.left + Sizes().TextWidth(FaceOf(label_), label_.Caption());
     }
     return place;
 }

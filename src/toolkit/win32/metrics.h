@@ -4,8 +4,8 @@
 #include <array>
 #include <string>
 
+#include "toolkit/control.h"
 #include "toolkit/win32/gdi_handles.h"
-#include "toolkit/window.h"
 
 namespace desktop {
 

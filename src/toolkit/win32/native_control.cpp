@@ -31,7 +31,7 @@ DWORD NativeControl::Style() const {
 void NativeControl::Create() {
     const Level level(drawing_);
     const RECT place = Place();
-    const auto id = static_cast<INT_PTR>(ControlId(control_.Owner().Spec(), control_.Spec()));
+    const auto id = static_cast<INT_PTR>(ControlId(control_));
     handle_ = ::CreateWindowExW(class_.extendedStyle, class_.name, CaptionText().c_str(), Style(),
                                 place.left, place.top, place.right - place.left,
                                 place.bottom - place.top, parent_.Handle(),
