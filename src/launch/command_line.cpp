@@ -8,7 +8,7 @@ std::string Quoted(const std::string& text) {
     return '"' + text + '"';
 }
 
-/// The number that the digits at the start of a text give, in plain decimal.
+/// The number formed by the digits at the start of a text, without leading zeros.
 std::string LeadingNumber(std::string_view text) {
     int number = 0;
     for (const char digit : text) {
@@ -32,8 +32,8 @@ std::string DemoArguments(const QuickStart& start) {
 
 }  // namespace
 
-std::string EngineParameterString(int EngineNum) {
-    const EngineRecord& engine = EngineAt(EngineNum);
+std::string EngineParameterString(int engineNum) {
+    const EngineRecord& engine = EngineAt(engineNum);
     std::string text;
     for (std::size_t i = 0; i < engine.options.size() && i < engine.parameters.size(); ++i) {
         if (engine.options[i]) {
@@ -43,8 +43,8 @@ std::string EngineParameterString(int EngineNum) {
     return LowerCase(TrimBlanks(text));
 }
 
-std::string WarpArguments(std::string_view MapName) {
-    const std::string name = UpperCase(MapName);
+std::string WarpArguments(std::string_view mapName) {
+    const std::string name = UpperCase(mapName);
     if (name.size() == 4 && name[0] == 'E' && name[2] == 'M') {
         return "-warp " + LeadingNumber(name.substr(1, 1)) + " " + LeadingNumber(name.substr(3));
     }
@@ -54,8 +54,8 @@ std::string WarpArguments(std::string_view MapName) {
     return "+map " + name;
 }
 
-std::string RemoveExtension(const std::string& FileName) {
-    return FileName.substr(0, FileName.rfind('.'));
+std::string RemoveExtension(const std::string& fileName) {
+    return fileName.substr(0, fileName.rfind('.'));
 }
 
 std::string LaunchCommandLine(int engine, const std::string& gameWad) {

@@ -1,4 +1,4 @@
-// What an engine receives as its command line, as a pure function of what was selected.
+// Composes the command lines that engines are started with.
 #pragma once
 
 #include <string>
@@ -7,34 +7,36 @@
 
 #include "state/records.h"
 
-/// The switched-on switches of an engine in the order of its definition, in lower case, one blank
-/// between two. `EngineNum` is a valid index into Engines.
-std::string EngineParameterString(int EngineNum);
+/// Returns the switches of an engine that are on, in the order of its definition, in lower case and
+/// separated by a space. `engineNum` is a valid index into Engines.
+std::string EngineParameterString(int engineNum);
 
-/// The arguments that start a map: `E1M1` gives "-warp 1 1", `MAP07` gives "-warp 7", any other
-/// name "+map " and the name in upper case. Case does not matter.
-std::string WarpArguments(std::string_view MapName);
+/// Returns the arguments that start a map: "-warp 1 1" for `E1M1`, "-warp 7" for `MAP07`, and "+map
+/// " with the upper-case name for any other. Case does not matter.
+std::string WarpArguments(std::string_view mapName);
 
-/// The text before its last point, or the text itself when it has none. Points in folders count.
-std::string RemoveExtension(const std::string& FileName);
+/// Returns the text before the last dot, or the whole text if it has none. Dots in folder names
+/// count.
+std::string RemoveExtension(const std::string& fileName);
 
-/// The short command line of Launch. The path of the game WAD stands without quotes.
+/// Returns the short command line of Launch. The path of the game WAD is not quoted.
 std::string LaunchCommandLine(int engine, const std::string& gameWad);
 
-/// All that a Quick Start depends on.
+/// What the command line of a Quick Start depends on, besides the file list.
 struct QuickStart {
     int engine = 0;       // a valid index into Engines
     std::string gameWad;  // full path
-    int skill = 0;        // from 0; the command line counts from 1
+    int skill = 0;        // counts from 0; on the command line from 1
     bool noMonsters = false;
     bool fastMonsters = false;
     bool respawnMonsters = false;
     std::string map;
     std::string recordTo;    // temporary demo file, empty for no recording
-    std::string playFrom;    // demo to play back, empty for none; a recording goes before
-    std::string parameters;  // what the player typed, as it stands
+    std::string playFrom;    // demo to play back, empty for none; ignored while recording
+    std::string parameters;  // what the player typed, unchanged
 };
 
-/// The full command line of Quick Start, with the entries of `files` in double quotes. Double and
-/// trailing blanks belong to it.
+/// Returns the full command line of a Quick Start, with each of `files` in double quotes. Some
+/// spaces in it are doubled and one is last: engines ignore them, and they are kept for
+/// compatibility.
 std::string QuickStartCommandLine(const QuickStart& start, const clsStringArray& files);

@@ -9,23 +9,23 @@
 
 namespace {
 
-/// How long one look at a waited-for process lasts: short enough for the windows to feel alive.
+/// Timeout of one wait for the process, between which events are handled.
 constexpr std::uint32_t WaitMilliseconds = 10;
 
 }  // namespace
 
-int RunProgram(std::string& FileName, const std::string& Parameters, int ShowCommand, bool Wait) {
-    if (FileName.find_first_of("/\\:") == std::string::npos) {
-        FileName = platform::ProgramDirectory() + "\\" + FileName;
+int RunProgram(std::string& fileName, const std::string& parameters, int showCommand, bool wait) {
+    if (fileName.find_first_of("/\\:") == std::string::npos) {
+        fileName = platform::ProgramDirectory() + "\\" + fileName;
     }
     platform::ShellExecuteInfo info;
     info.fMask = platform::SeeMaskNoCloseProcess;
-    info.lpFile = FileName;
-    info.lpParameters = Parameters;
-    info.lpDirectory = FolderOfFile(FileName);
-    info.nShow = ShowCommand;
+    info.lpFile = fileName;
+    info.lpParameters = parameters;
+    info.lpDirectory = FolderOfFile(fileName);
+    info.nShow = showCommand;
     const bool accepted = platform::ShellExecuteExA(info);
-    if (Wait && info.hProcess) {
+    if (wait && info.hProcess) {
         while (platform::WaitForSingleObject(info.hProcess, WaitMilliseconds) != 0) {
             desktop::DoEvents();
         }
@@ -33,7 +33,7 @@ int RunProgram(std::string& FileName, const std::string& Parameters, int ShowCom
     return accepted ? 1 : 0;
 }
 
-std::string FolderOfFile(const std::string& FileName) {
-    const std::optional<std::string> found = platform::LookUpFileName(FileName);
-    return found ? FileName.substr(0, FileName.size() - found->size()) : std::string();
+std::string FolderOfFile(const std::string& fileName) {
+    const std::optional<std::string> found = platform::LookUpFileName(fileName);
+    return found ? fileName.substr(0, fileName.size() - found->size()) : std::string();
 }

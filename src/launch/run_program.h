@@ -1,20 +1,20 @@
-// The one place through which anything outside the system starts.
+// Starts programs and opens documents and URLs. Nothing else in Zorvane does.
 #pragma once
 
 #include <string>
 
-/// Windows show states, passed on as they are.
+/// Windows show states, passed on unchanged.
 inline constexpr int ShowMaximized = 3;
 inline constexpr int ShowNormally = 5;
 inline constexpr int ShowMinimizedInactive = 7;
 
-/// Opens a program, a document or a URL through the shell, in the folder of that file. A bare name
-/// (no "/", "\" or ":") gets the program directory before it, in the caller's variable too. With
-/// `Wait` it returns after the started process has ended and lets the windows live meanwhile.
-/// Gives 0 when the shell refused, else another number; shows no message.
-int RunProgram(std::string& FileName, const std::string& Parameters, int ShowCommand, bool Wait);
+/// Opens a program, a document or a URL through the shell, with its folder as working directory. A
+/// bare name (no "/", "\" or ":") is looked up in the program directory, and `fileName` becomes
+/// that path. With `wait` it returns when the started program has ended, and handles events
+/// meanwhile. Returns 0 if the shell refused, otherwise 1. Shows no message.
+int RunProgram(std::string& fileName, const std::string& parameters, int showCommand, bool wait);
 
-/// The folder of an existing file, with its closing backslash: the text without the bare name of
-/// the file that it finds. The whole text when it finds none; empty for a text that is no file
-/// name, such as a URL.
-std::string FolderOfFile(const std::string& FileName);
+/// Returns the folder of an existing file, with its final backslash: the text without the file name
+/// that was found. Returns the whole text if there is no such file, and an empty text for one that
+/// cannot be a file name, such as a URL.
+std::string FolderOfFile(const std::string& fileName);

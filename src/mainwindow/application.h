@@ -1,6 +1,6 @@
-// All of the windows, tied together.
+// Connects the windows with each other and with start-up.
 #pragma once
 
-/// Fills TheApplication with the windows of the system in their loading order and ties the setup
-/// dialog's end to the main window's lists.
+/// Sets TheApplication to the windows in their loading order, and refills the main window's lists
+/// when the setup dialog is accepted.
 void ConnectApplication();
