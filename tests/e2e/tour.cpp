@@ -20,6 +20,7 @@
 #include "setup/engine_settings.h"
 #include "setup/setup.h"
 #include "state/startup.h"
+#include "toolkit/qt/native_window.h"
 #include "wad/wad.h"
 
 namespace {
@@ -116,7 +117,8 @@ void ChooseFilesAndMap() {
     Choose(frmMain.cmbIWADs, "Freedoom: Phase 2");
     Press(frmMain.cmdGetMapLump, {{.shown = "Warning: The map E1M3", .picture = "map-warning"}});
     Choose(frmMain.cmbIWADs, "Freedoom: Phase 1");
-    auto& maps = *Front().findChild<QComboBox*>("cmbMaps");
+    auto& maps =
+        static_cast<QComboBox&>(desktop::NativeOf(&frmMain)->Find(frmMain.cmbMaps).Widget());
     maps.showPopup();
     Picture("maps");
     maps.hidePopup();
