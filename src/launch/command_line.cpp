@@ -40,7 +40,7 @@ std::string EngineParameterString(int engineNum) {
             text += ' ' + engine.parameters[i].switchText;
         }
     }
-    return LowerCase(TrimBlanks(text));
+    return LowerCase(TrimSpaces(text));
 }
 
 std::string WarpArguments(std::string_view mapName) {

@@ -14,21 +14,17 @@ char UpperCase(char character) {
 
 std::string LowerCase(std::string_view text) {
     std::string result(text);
-    for (char& character : result) {
-        character = LowerCase(character);
-    }
+    std::ranges::transform(result, result.begin(), [](char letter) { return LowerCase(letter); });
     return result;
 }
 
 std::string UpperCase(std::string_view text) {
     std::string result(text);
-    for (char& character : result) {
-        character = UpperCase(character);
-    }
+    std::ranges::transform(result, result.begin(), [](char letter) { return UpperCase(letter); });
     return result;
 }
 
-std::string_view TrimBlanks(std::string_view text) {
+std::string_view TrimSpaces(std::string_view text) {
     const std::size_t first = text.find_first_not_of(' ');
     if (first == std::string_view::npos) {
         return {};

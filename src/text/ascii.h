@@ -1,25 +1,23 @@
-// Text is one byte a character and is never decoded. Only the 26 ASCII letters have a case.
+// Text is bytes, one per character, and is never decoded. Only the 26 ASCII letters have a case.
 #pragma once
 
 #include <string>
 #include <string_view>
 
-/// The letter's lower or upper case form; any other byte unchanged.
+/// Returns the ASCII letter in lower or upper case, and any other byte unchanged.
 char LowerCase(char character);
 char UpperCase(char character);
 
-/// The same for every character of a text.
+/// Converts every character of a text.
 std::string LowerCase(std::string_view text);
 std::string UpperCase(std::string_view text);
 
-/// The text without the blanks (code 32, nothing else) at both of its ends.
-std::string_view TrimBlanks(std::string_view text);
+/// Returns the text without leading and trailing spaces (U+0020 only).
+std::string_view TrimSpaces(std::string_view text);
 
-/// Whether the text ends in `ending`, the case of ASCII letters apart.
+/// Both compare byte by byte, ignoring the case of ASCII letters.
+bool EqualIgnoringCase(std::string_view left, std::string_view right);
 bool EndsWithIgnoringCase(std::string_view text, std::string_view ending);
 
-/// Whether two texts are equal, the case of ASCII letters apart.
-bool EqualIgnoringCase(std::string_view left, std::string_view right);
-
-/// `text` with every occurrence of `from` (not empty) replaced, from left to right.
+/// Replaces every occurrence of `from` (not empty), from left to right.
 std::string ReplaceAll(std::string_view text, std::string_view from, std::string_view to);

@@ -2,16 +2,21 @@
 
 #include "text/ascii.h"
 
+std::string JoinPath(std::string_view directory, std::string_view name) {
+    return std::string(directory).append(1, '\\').append(name);
+}
+
 bool MatchesPattern(std::string_view name, std::string_view pattern) {
-    // After a mismatch the last `*` takes one character more.
+    // On a mismatch, the last `*` takes one more character and matching resumes after it. Earlier
+    // ones need no second try, so the time is at most the product of both lengths.
     std::size_t at = 0;
     std::size_t inPattern = 0;
     std::size_t star = std::string_view::npos;
-    std::size_t behindStar = 0;
+    std::size_t afterStar = 0;
     while (at < name.size()) {
         if (inPattern < pattern.size() && pattern[inPattern] == '*') {
             star = inPattern++;
-            behindStar = at;
+            afterStar = at;
         } else if (inPattern < pattern.size() &&
                    (pattern[inPattern] == '?' ||
                     LowerCase(pattern[inPattern]) == LowerCase(name[at]))) {
@@ -19,7 +24,7 @@ bool MatchesPattern(std::string_view name, std::string_view pattern) {
             ++at;
         } else if (star != std::string_view::npos) {
             inPattern = star + 1;
-            at = ++behindStar;
+            at = ++afterStar;
         } else {
             return false;
         }
@@ -27,11 +32,8 @@ bool MatchesPattern(std::string_view name, std::string_view pattern) {
     return pattern.find_first_not_of('*', inPattern) == std::string_view::npos;
 }
 
-std::string JoinPath(std::string_view directory, std::string_view name) {
-    return std::string(directory).append(1, '\\').append(name);
-}
-
 bool ListedBefore(const std::string& left, const std::string& right) {
+    // Windows compares capitals: `_` comes after the letters.
     const int order = UpperCase(left).compare(UpperCase(right));
     return order != 0 ? order < 0 : left < right;
 }

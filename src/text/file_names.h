@@ -1,14 +1,15 @@
-// File names as Windows matches and orders them: the case of ASCII letters counts for nothing.
+// File names as Windows joins, matches and orders them. The case of ASCII letters is ignored.
 #pragma once
 
 #include <string>
 #include <string_view>
 
-/// Whether the name fits the pattern, in which `*` stands for any characters and `?` for one.
-bool MatchesPattern(std::string_view name, std::string_view pattern);
-
-/// The directory, a backslash and the name. Adds the backslash even after one, as in `C:\\a.wad`.
+/// Returns directory, backslash, name. A directory that ends in a backslash gets a second one.
 std::string JoinPath(std::string_view directory, std::string_view name);
 
-/// Whether a listing of a folder has `left` before `right`: the order of their capital forms.
+/// Whether the whole name matches the pattern: `*` matches any characters, `?` exactly one.
+bool MatchesPattern(std::string_view name, std::string_view pattern);
+
+/// Whether a folder's listing shows `left` before `right`. Names that differ in case only are
+/// ordered by their bytes.
 bool ListedBefore(const std::string& left, const std::string& right);
