@@ -9,7 +9,7 @@
 
 namespace {
 
-constexpr std::int32_t mostBytes = 1 << 20;
+constexpr std::int32_t MaxBytes = 1 << 20;
 
 std::vector<std::string> LumpNames(const clsWad& wad) {
     std::vector<std::string> names(static_cast<std::size_t>(wad.Directory().Count()));
@@ -24,7 +24,7 @@ void Walk(const clsWad& wad) {
         const std::int32_t found = wad.NumForName(name);
         Require(found == -1 || wad.LumpName(found) == name, "a found name is equal");
         Require(found <= lump || wad.LumpName(lump) != name, "the first one is found");
-        if (wad.LumpSize(lump) <= mostBytes) {
+        if (wad.LumpSize(lump) <= MaxBytes) {
             wad.ReadLump(lump);
         }
     }
@@ -49,7 +49,7 @@ extern "C" int LLVMFuzzerTestOneInput(const char* bytes, std::size_t size) {
     clsWad wad;
     wad.OpenWad(folder.Write("input.wad", {bytes, size}));
     Walk(wad);
-    if (size >= 12 && DecodeInt32(bytes + 8) < mostBytes && wad.Directory().Count() < 1000) {
+    if (size >= 12 && DecodeInt32(bytes + 8) < MaxBytes && wad.Directory().Count() < 1000) {
         Extend(wad);
     }
     return 0;

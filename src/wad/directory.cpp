@@ -1,7 +1,6 @@
 #include "wad/directory.h"
 
 #include <algorithm>
-#include <cstring>
 #include <new>
 
 #include "text/ascii.h"
@@ -9,114 +8,91 @@
 
 namespace {
 
-bool IsPadding(char character) {
-    return character == '\0' || character == ' ';
+constexpr std::size_t NameOffset = 8;
+
+std::size_t ByteOffset(std::int32_t index) {
+    return static_cast<std::size_t>(index) * WadDirectory::EntryBytes;
 }
 
-inline std::string_view TrimPadding(const char* field) {
-    const char* end = field + lumpNameLength;
-    while (end != field && IsPadding(end[-1])) {
-        --end;
-    }
-    return {std::find_if_not(field, end, IsPadding), end};
-}
-
-/// The first of `count` entries from `start` on that has this name, or `count`.
-std::int32_t FindNamed(const char* entries, std::int32_t start, std::int32_t count,
-                       const WantedName& name) {
-    for (std::int32_t index = start; index < count; ++index) {
-        if (name.IsIn(entries + static_cast<std::size_t>(index) * WadDirectory::entryBytes + 8)) {
-            return index;
-        }
-    }
-    return count;
+/// Returns the name in a field, whose NULs become spaces.
+std::string_view StripLumpName(LumpNameField& field) {
+    std::ranges::replace(field, '\0', ' ');
+    return TrimSpaces({field.data(), field.size()});
 }
 
 }  // namespace
 
-WantedName::WantedName(std::string_view name)
-    : name_(name),
-      first_(name.empty() ? '\0' : name.front()),
-      isPossible_(name.size() <= lumpNameLength && name.find('\0') == std::string_view::npos) {
-    name.copy(usual_.data(), usual_.size());
-}
-
-// Most fields begin with another letter, and most of the others hold just the name and NULs:
-// neither needs a closer look.
-bool WantedName::IsIn(const char* field) const {
-    if (*field != first_ && !IsPadding(*field)) {
-        return false;
-    }
-    const bool isUsual = std::memcmp(field, usual_.data(), lumpNameLength) == 0;
-    return isUsual ? isPossible_ : StripLumpName(field) == name_;
-}
-
-std::string StripLumpName(const char* field) {
-    std::string name(TrimPadding(field));
-    std::ranges::replace(name, '\0', ' ');
-    return name;
-}
-
-// Made where it stays: moving a short text that was made just now is what takes longest here.
-void AppendLumpName(const char* field, std::vector<std::string>& names) {
-    const std::string_view name = TrimPadding(field);
-    names.emplace_back(name);
-    if (std::ranges::find(name, '\0') != name.end()) {
-        names.back() = StripLumpName(field);
-    }
-}
-
 bool WadDirectory::Read(const platform::File& file, std::int64_t offset, std::int32_t count) {
-    Clear();
-    const std::int64_t wanted = std::int64_t{count} * std::int64_t{entryBytes};
-    const std::int64_t there = offset < 0 ? 0 : std::max<std::int64_t>(file.Size() - offset, 0);
-    const auto bytes = static_cast<std::size_t>(std::min(wanted, there));
-    const std::size_t room = (bytes + entryBytes - 1) / entryBytes * entryBytes;
-    readBytes_.reset(new (std::nothrow) char[room]);
-    if (!readBytes_) {
+    constexpr auto Size = static_cast<std::int64_t>(EntryBytes);
+    const std::int64_t available = offset < 0 ? 0 : file.Size() - offset;
+    const auto stored = std::clamp<std::int64_t>((available + Size - 1) / Size, 0, count);
+    std::string bytes;
+    try {
+        bytes.resize(static_cast<std::size_t>(stored * Size));
+    } catch (const std::bad_alloc&) {
         return false;
     }
-    const std::size_t got = bytes > 0 ? file.ReadAt(offset, readBytes_.get(), bytes) : 0;
-    std::memset(readBytes_.get() + got, 0, room - got);
-    read_ = static_cast<std::int32_t>((got + entryBytes - 1) / entryBytes);
-    firstAdded_ = count;
+    if (!bytes.empty()) {
+        file.ReadAt(offset, bytes.data(), bytes.size());
+    }
+    bytes_ = std::move(bytes);
+    count_ = count;
     return true;
 }
 
-void WadDirectory::Add(const WadLumpEntry& entry) {
-    AppendInt32(addedBytes_, entry.filePos);
-    AppendInt32(addedBytes_, entry.size);
-    addedBytes_.append(entry.name.data(), entry.name.size());
-    ++added_;
+void WadDirectory::Add(std::int32_t filePos, std::int32_t size, std::string_view name) {
+    bytes_.resize(ByteOffset(count_));
+    AppendInt32(bytes_, filePos);
+    AppendInt32(bytes_, size);
+    bytes_ += name.substr(0, LumpNameField().size());
+    ++count_;
+    bytes_.resize(ByteOffset(count_), ' ');
+}
+
+std::int32_t WadDirectory::StoredCount() const {
+    return static_cast<std::int32_t>(bytes_.size() / EntryBytes);
 }
 
 WadLumpEntry WadDirectory::Entry(std::int32_t index) const {
-    const char* const bytes = Bytes(index);
-    WadLumpEntry entry{DecodeInt32(bytes), DecodeInt32(bytes + 4), {}};
-    std::copy_n(NameField(index), lumpNameLength, entry.name.begin());
-    return entry;
+    if (index < 0 || index >= StoredCount()) {
+        return {};
+    }
+    const char* const bytes = bytes_.data() + ByteOffset(index);
+    return {DecodeInt32(bytes), DecodeInt32(bytes + 4), NameField(index)};
 }
 
-std::int32_t WadDirectory::Find(const WantedName& name, std::int32_t start) const {
-    if (start < read_) {
-        const std::int32_t found = FindNamed(readBytes_.get(), start, read_, name);
-        if (found < read_) {
-            return found;
+LumpNameField WadDirectory::NameField(std::int32_t index) const {
+    LumpNameField field;
+    std::copy_n(bytes_.data() + ByteOffset(index) + NameOffset, field.size(), field.begin());
+    return field;
+}
+
+std::string WadDirectory::Name(std::int32_t index) const {
+    LumpNameField field = Entry(index).name;
+    return std::string(StripLumpName(field));
+}
+
+std::int32_t WadDirectory::Find(std::string_view name, std::int32_t start) const {
+    for (std::int32_t index = start; index < StoredCount(); ++index) {
+        LumpNameField field = NameField(index);
+        // The first character rules out most entries, unless it is padding.
+        const bool isPossible = name.starts_with(field[0]) || field[0] == '\0' || field[0] == ' ';
+        if (isPossible && StripLumpName(field) == name) {
+            return index;
         }
     }
-    if (name.IsIn(missing.data()) && start < firstAdded_ && read_ < firstAdded_) {
-        return std::max(start, read_);
-    }
-    const std::int32_t found =
-        FindNamed(addedBytes_.data(), std::max(start - firstAdded_, 0), added_, name);
-    return found < added_ ? firstAdded_ + found : -1;
+    const std::int32_t nameless = std::max(start, StoredCount());
+    return name.empty() && nameless < count_ ? nameless : -1;
 }
 
-std::string WadDirectory::Encode(const WadLumpEntry& entry) {
+std::string WadDirectory::Encode() const {
     std::string bytes;
-    AppendInt32(bytes, entry.filePos);
-    AppendInt32(bytes, entry.size);
-    bytes += TrimBlanks({entry.name.data(), entry.name.size()});
-    bytes.resize(entryBytes, '\0');
+    for (std::int32_t index = 0; index < count_; ++index) {
+        const WadLumpEntry entry = Entry(index);
+        AppendInt32(bytes, entry.filePos);
+        AppendInt32(bytes, entry.size);
+        bytes += TrimSpaces({entry.name.data(), entry.name.size()});
+        bytes.resize(ByteOffset(index + 1));
+    }
     return bytes;
 }

@@ -1,9 +1,10 @@
-// The whole numbers of a WAD file: four bytes, the lowest first.
+// The 32-bit whole numbers of a WAD file, lowest byte first.
 #pragma once
 
 #include <cstdint>
 #include <string>
 
+/// Decodes the number in the four bytes at `bytes`.
 inline std::int32_t DecodeInt32(const char* bytes) {
     std::uint32_t number = 0;
     for (int place = 3; place >= 0; --place) {
@@ -12,6 +13,7 @@ inline std::int32_t DecodeInt32(const char* bytes) {
     return static_cast<std::int32_t>(number);
 }
 
+/// Appends the number's four bytes.
 inline void AppendInt32(std::string& bytes, std::int32_t number) {
     const auto raw = static_cast<std::uint32_t>(number);
     for (int shift = 0; shift < 32; shift += 8) {

@@ -2,34 +2,31 @@
 
 namespace {
 
-constexpr int lumpsOfAMap = 10;
-const WantedName things("THINGS");
+constexpr int DataLumps = 10;
 
-/// Index of the map at or behind `start`, or a negative number.
+/// Index of the first map at or after `start`; negative if there is none.
 std::int32_t NextMap(const clsWad& wad, std::int32_t start) {
-    return wad.Directory().Find(things, start + 1) - 1;
+    return wad.Directory().Find("THINGS", start + 1) - 1;
 }
 
 }  // namespace
 
 std::vector<std::string> MapNames(const clsWad& wad) {
     std::vector<std::string> names;
-    const auto lumps = static_cast<std::size_t>(wad.Directory().StoredCount());
-    names.reserve(lumps / (lumpsOfAMap + 1) + 1);
-    for (std::int32_t map = NextMap(wad, 0); map >= 0; map = NextMap(wad, map + lumpsOfAMap + 1)) {
-        AppendLumpName(wad.Directory().NameField(map), names);
+    for (std::int32_t map = NextMap(wad, 0); map >= 0; map = NextMap(wad, map + DataLumps + 1)) {
+        names.push_back(wad.LumpName(map));
     }
     return names;
 }
 
 std::string LowestMap(const clsWad& wad) {
-    const std::string noMapYet(lumpNameLength, '\xFF');
+    const std::string noMapYet(8, '\xFF');
     std::string lowest = noMapYet;
     for (std::int32_t map = NextMap(wad, 0); map >= 0; map = NextMap(wad, map + 1)) {
-        const std::string name = wad.LumpName(map);
+        std::string name = wad.LumpName(map);
         if (name < lowest) {
-            lowest = name;
-            map += lumpsOfAMap;
+            lowest = std::move(name);
+            map += DataLumps;
         }
     }
     return lowest == noMapYet ? std::string() : lowest;

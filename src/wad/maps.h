@@ -1,5 +1,4 @@
-// The maps of a WAD. A map is a lump whose next lump is named "THINGS", compared exactly; its own
-// name may be any.
+// The maps of a WAD. A map is a lump of any name that is followed by a lump named exactly "THINGS".
 #pragma once
 
 #include <string>
@@ -7,10 +6,10 @@
 
 #include "wad/wad.h"
 
-/// The names of the maps in the directory's order, a name that occurs twice twice. The ten lumps
-/// behind a map are its own: a map among them is passed over.
+/// The names of the maps in directory order, duplicates included. After each map its ten data lumps
+/// are skipped, so a map among them is not listed.
 std::vector<std::string> MapNames(const clsWad& wad);
 
-/// The map whose name is lowest by the codes of its characters, empty when there is no map. Only
-/// behind a map that was the lowest so far are ten lumps passed over.
+/// The map whose name is the lowest in byte order, empty if there is none. Ten lumps are skipped
+/// only after a map that is the lowest so far.
 std::string LowestMap(const clsWad& wad);

@@ -10,14 +10,12 @@
 
 namespace {
 
-constexpr std::size_t tagLength = 4;
-constexpr std::int32_t headerBytes = 12;
-constexpr std::int32_t highest = std::numeric_limits<std::int32_t>::max();
-constexpr std::int32_t mostLumps = (1 << 27);  // a directory of 2 GiB
+constexpr std::int32_t MaxLumps = 1 << 27;  // a directory of 2 GiB
 
-std::int32_t Limited(std::int64_t number) {
-    constexpr std::int64_t lowest = std::numeric_limits<std::int32_t>::min();
-    return static_cast<std::int32_t>(std::clamp<std::int64_t>(number, lowest, highest));
+std::int32_t Clamped(std::int64_t number) {
+    using Limits = std::numeric_limits<std::int32_t>;
+    return static_cast<std::int32_t>(
+        std::clamp<std::int64_t>(number, Limits::min(), Limits::max()));
 }
 
 template <class Bytes>
@@ -35,9 +33,9 @@ void clsWad::ResetWad() {
     file_.Close();
     wadTag_ = "PWAD";
     lastLump_ = -1;
-    dirOffset_ = headerBytes;
+    dirOffset_ = HeaderBytes;
     openName_.clear();
-    directory_.Clear();
+    directory_ = {};
 }
 
 void clsWad::OpenWad(std::string fileName) {
@@ -58,11 +56,11 @@ void clsWad::OpenWad(std::string fileName) {
 }
 
 bool clsWad::ReadHeaderAndDirectory() {
-    std::array<char, headerBytes> header{};
+    std::array<char, HeaderBytes> header{};
     file_.ReadAt(0, header.data(), header.size());
-    wadTag_.assign(header.data(), tagLength);
+    wadTag_.assign(header.data(), TagLength);
     const std::int32_t count = DecodeInt32(&header[4]);
-    if ((wadTag_ != "IWAD" && wadTag_ != "PWAD") || count < -1 || count > mostLumps) {
+    if ((wadTag_ != "IWAD" && wadTag_ != "PWAD") || count < -1 || count > MaxLumps) {
         return false;
     }
     lastLump_ = count - 1;
@@ -87,24 +85,19 @@ std::int32_t clsWad::WadType() const {
     return wadTag_ == "PWAD" ? 1 : 0;
 }
 
-std::string clsWad::LumpName(std::int32_t lump) const {
-    return StripLumpName(directory_.NameField(lump));
-}
-
 std::int32_t clsWad::WadSize() const {
-    return Limited(file_.Size());
+    return Clamped(file_.Size());
 }
 
 std::int32_t clsWad::NumForName(std::string_view lumpName) const {
-    const std::string name = UpperCase(TrimBlanks(lumpName));
-    return directory_.Find(WantedName(name));
+    return directory_.Find(UpperCase(TrimSpaces(lumpName)));
 }
 
 std::int32_t clsWad::WastedSpace() const {
-    std::int64_t wasted = file_.Size() - headerBytes;
-    wasted -= std::int64_t{directory_.Count()} * std::int64_t{WadDirectory::entryBytes};
+    std::int64_t wasted = file_.Size() - HeaderBytes;
+    wasted -= std::int64_t{directory_.Count()} * std::int64_t{WadDirectory::EntryBytes};
     for (std::int32_t lump = 0; lump < directory_.StoredCount(); ++lump) {
         wasted -= LumpSize(lump);
     }
-    return Limited(wasted);
+    return Clamped(wasted);
 }

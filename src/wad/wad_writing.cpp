@@ -1,4 +1,3 @@
-#include <algorithm>
 #include <limits>
 #include <utility>
 
@@ -8,26 +7,13 @@
 
 namespace {
 
-constexpr std::int32_t headerBytes = 12;
-constexpr std::size_t tagLength = 4;
-
-/// A name as the directory holds it until it is written: filled up with blanks.
-LumpNameField NewName(std::string_view name) {
-    LumpNameField field{};
-    field.fill(' ');
-    std::ranges::copy(UpperCase(name.substr(0, field.size())), field.begin());
-    return field;
-}
-
-platform::Outcome Refused(std::string reason) {
-    return {false, std::move(reason)};
-}
+constexpr const char* NotWritable = "There is no open WAD that can be written.";
 
 }  // namespace
 
 platform::Outcome clsWad::CreateWad(std::string fileName, std::string& wadType) {
-    if (wadType.size() != tagLength) {
-        return Refused("The type of a WAD has 4 characters.");
+    if (wadType.size() != TagLength) {
+        return {false, "The type of a WAD has 4 characters."};
     }
     ResetWad();
     wadType = UpperCase(wadType);
@@ -46,17 +32,17 @@ platform::Outcome clsWad::CreateWad(std::string fileName, std::string& wadType) 
 }
 
 platform::Outcome clsWad::AddLump(std::string_view lumpName, std::string_view lumpData) {
-    constexpr std::size_t highest = std::numeric_limits<std::int32_t>::max();
-    if (!file_.IsOpen() || dirOffset_ < headerBytes) {
-        return Refused("There is no WAD to add the lump to.");
+    constexpr std::size_t MaxEnd = std::numeric_limits<std::int32_t>::max();
+    if (!IsWritable()) {
+        return {false, NotWritable};
     }
-    if (lumpData.size() > highest - static_cast<std::size_t>(dirOffset_)) {
-        return Refused("A WAD ends below 2 GiB.");
+    if (lumpData.size() > MaxEnd - static_cast<std::size_t>(dirOffset_)) {
+        return {false, "The lumps of a WAD end below 2 GiB."};
     }
     platform::Outcome outcome = file_.WriteAt(dirOffset_, lumpData);
     if (outcome) {
         const auto size = static_cast<std::int32_t>(lumpData.size());
-        directory_.Add({dirOffset_, size, NewName(lumpName)});
+        directory_.Add(dirOffset_, size, UpperCase(lumpName));
         lastLump_ = directory_.Count() - 1;
         dirOffset_ += size;
     }
@@ -64,24 +50,11 @@ platform::Outcome clsWad::AddLump(std::string_view lumpName, std::string_view lu
 }
 
 platform::Outcome clsWad::WriteDirectory() {
-    constexpr std::size_t chunkBytes = 1 << 16;
-    if (!file_.IsOpen() || dirOffset_ < headerBytes) {
-        return Refused("There is no WAD to write the directory of.");
+    if (!IsWritable()) {
+        return {false, NotWritable};
     }
-    std::int64_t position = dirOffset_;
-    std::string chunk;
-    for (std::int32_t lump = 0; lump <= lastLump_; ++lump) {
-        chunk += WadDirectory::Encode(directory_.Entry(lump));
-        if (chunk.size() < chunkBytes && lump < lastLump_) {
-            continue;
-        }
-        if (platform::Outcome outcome = file_.WriteAt(position, chunk); !outcome) {
-            return outcome;
-        }
-        position += static_cast<std::int64_t>(chunk.size());
-        chunk.clear();
-    }
-    return file_.WriteAt(0, Header(lastLump_ + 1));
+    const platform::Outcome outcome = file_.WriteAt(dirOffset_, directory_.Encode());
+    return outcome ? file_.WriteAt(0, Header(lastLump_ + 1)) : outcome;
 }
 
 std::string clsWad::Header(std::int32_t count) const {

@@ -43,11 +43,11 @@ void MakePlayersFiles() {
     clsWad own;
     std::filesystem::create_directory(Wads(""));
     game.OpenWad("Z:" + phase1);
-    own.CreateWad(Wads("castle.wad"), kind);
+    Check(own.CreateWad(Wads("castle.wad"), kind).ok, "a WAD of the player's own");
     for (int lump = game.NumForName("E1M3"), i = 0; i < lumpsOfMap; ++i, ++lump) {
-        own.AddLump(game.LumpName(lump), game.ReadLumpString(lump));
+        Check(own.AddLump(game.LumpName(lump), game.ReadLumpString(lump)).ok, "a lump");
     }
-    Check(!!own.WriteDirectory(), "a WAD of the player's own");
+    Check(own.WriteDirectory().ok, "a directory");
     std::ofstream(Wads("castle.txt")) << "A castle.\n";
     std::ofstream(Wads("patch.deh")) << "Patch File for DeHackEd v3.0\n";
     std::filesystem::create_directory(folder + "/ports/doomretro");
