@@ -4,7 +4,6 @@
 
 #include "platform/files.h"
 #include "state/records.h"
-#include "state/startup.h"
 #include "text/ascii.h"
 #include "text/file_names.h"
 #include "toolkit/dialogs.h"
@@ -15,16 +14,16 @@ constexpr const char* EngineFileMark = "Zorvane engine file";
 constexpr const char* NoEngineFiles =
     "No engine configuration files were found. Please check if you installed Zorvane properly.";
 
-/// A structure of texts as a sequence of pairs, the key second with `prefix` before it.
-template <typename Pair>
-std::vector<Pair> Flatten(ConfigMap& root, std::string_view key, const std::string& prefix) {
-    std::vector<Pair> pairs;
+/// Converts a structure of texts to a sequence of {value, prefix + key}.
+template <typename Record>
+std::vector<Record> Flatten(ConfigMap& root, std::string_view key, const std::string& prefix) {
+    std::vector<Record> records;
     if (const ConfigMapRef map = root.Item(key).AsMap()) {
         for (const auto& entry : map->Entries()) {
-            pairs.push_back({entry.value.AsText(), prefix + entry.key});
+            records.push_back({entry.value.AsText(), prefix + entry.key});
         }
     }
-    return pairs;
+    return records;
 }
 
 }  // namespace
@@ -50,21 +49,23 @@ void ReadEngineFile(const std::string& fileName) {
     engine.parameters = Flatten<EngineParameter>(root, "parameters", "-");
     engine.filetypes = Flatten<EngineFileType>(root, "filetypes", "");
 
+    // The settings file cannot hold two engines of one key.
     const std::string key = EngineKey(engine.realname);
-    const bool taken = std::ranges::any_of(
+    const bool isDuplicate = std::ranges::any_of(
         Engines, [&](const EngineRecord& other) { return EngineKey(other.realname) == key; });
-    if (!taken) {
+    if (!isDuplicate) {
         Engines.push_back(std::move(engine));
     }
 }
 
-void ScanEngineFiles(const std::string& directory) {
+bool ScanEngineFiles(const std::string& directory) {
     const std::vector<std::string> names = platform::ListFiles(directory, "*.cfg");
     if (names.empty()) {
         desktop::ShowMessage(NoEngineFiles, ProgramTitle, desktop::MessageIcon::Critical);
-        ShutDown();
+        return false;
     }
     for (const std::string& name : names) {
         ReadEngineFile(JoinPath(directory, name));
     }
+    return true;
 }

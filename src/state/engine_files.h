@@ -1,4 +1,4 @@
-// Engine definition files: one configuration text for each engine, written by hand.
+// Engine definition files: one configuration text per engine, written by hand.
 //
 //     type = "Zorvane engine file";
 //     executable = "sample.exe";
@@ -16,15 +16,14 @@
 
 #include <string>
 
-/// Reads every `*.cfg` of a directory into Engines, in the order of the listing. Without a single
-/// file it shows a message and stops the program.
-void ScanEngineFiles(const std::string& directory);
+/// Reads every `*.cfg` of a directory into Engines, in the order of the listing. Shows a message
+/// and returns false if there is no such file.
+[[nodiscard]] bool ScanEngineFiles(const std::string& directory);
 
-/// Adds the engine that the file defines to Engines. A file of another type is passed over in
-/// silence, and so is an engine whose key in the settings file another one has already. Text that
-/// is missing is empty, a list that is missing has no entry.
+/// Appends the engine that a file defines to Engines. A missing text is empty, and so is a missing
+/// list. No-op if the file is of another type or if an engine of the same EngineKey exists.
 void ReadEngineFile(const std::string& fileName);
 
-/// The key of an engine in the settings file: its name with each blank replaced by the character of
-/// code 1, for a key of a configuration text can hold no blank.
+/// Key of an engine in the settings file: its name with each space replaced by the character of
+/// code 1, because a key cannot contain spaces.
 std::string EngineKey(const std::string& realname);

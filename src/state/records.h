@@ -11,64 +11,64 @@
 
 /// Title of every message box.
 inline constexpr const char* ProgramTitle = "Zorvane";
-/// Switches of an engine that can be turned on, one check box each in its settings dialog.
+/// Number of an engine's switches that can be turned on: one check box each in its dialog.
 inline constexpr int OptionCount = 16;
-/// An index that selects nothing.
+/// The index of no row.
 inline constexpr int NoSelection = -1;
 
 struct EngineFileType {
-    std::string description;  // the words of a file dialog
-    std::string extension;    // without point and star
+    std::string description;  // as a file dialog shows it
+    std::string extension;    // without dot and star
 };
 
 struct EngineParameter {
-    std::string caption;     // the words of its check box
-    std::string switchText;  // as it goes on the command line, "-" included
+    std::string caption;     // of its check box
+    std::string switchText;  // as it goes on the command line, including the "-"
 };
 
 using EngineOptions = std::array<bool, OptionCount>;
 
-/// One engine: what its definition file says, and where it lies and what is switched on.
 struct EngineRecord {
-    std::string realname;    // shown in lists, and its identity in the settings file
+    // From the definition file:
+    std::string realname;    // shown in lists; identifies the engine in the settings file
     std::string executable;  // file name of the program, without directory
-    std::string demoext;     // extension of its demos, without the point
+    std::string demoext;     // extension of its demos, without the dot
     std::vector<EngineFileType> filetypes;
     std::vector<EngineParameter> parameters;
-    std::string path;         // directory of the program, without a closing backslash; may be empty
-    EngineOptions options{};  // options[i] switches parameters[i] on
+    // From the settings file:
+    std::string path;  // directory of the program, without a trailing backslash; may be empty
+    EngineOptions options{};  // options[i] turns parameters[i] on
 };
 
-/// One game WAD.
 struct GameWadRecord {
-    std::string name;  // the formal name that the user gave
+    std::string name;  // chosen by the user
     std::string file;  // full path
 };
 
-/// Every valid engine definition. Fixed after the start but for `path` and `options`. An index into
-/// it is the row number in every list of engines; the same goes for GameWads.
+/// All engines, in the order of every list of engines: an index is a row number. Only `path` and
+/// `options` change after the start. An index of GameWads is a row number as well.
 extern std::vector<EngineRecord> Engines;
 extern std::vector<GameWadRecord> GameWads;
-/// Full paths of the additional files, row for row those of the main window's list.
+/// Full paths of the additional files, in the order of the main window's list.
 extern clsStringArray FileList;
 
-/// The settings document. Scalars live in its tree during the whole run; the lists above meet it
-/// only when it is loaded and saved.
+/// The settings. Single values are always up to date in this tree; the three lists above are copied
+/// from it by LoadSettings and into it by SaveSettings.
 extern clsConfiguration Settings;
 /// Full path of the settings file.
 extern std::string SettingsFileName;
-/// The table of known game WADs: file name in lower case to formal name.
+/// The known games: file name in lower case to the name that is proposed.
 extern clsConfiguration Autodetect;
 
 std::int32_t EngineCount();
 std::int32_t GameWadCount();
 
-/// The record at an index that is valid.
+/// The record at a valid index.
 EngineRecord& EngineAt(int index);
 GameWadRecord& GameWadAt(int index);
 
-/// The full path of an engine's program: its path, a backslash, its executable.
+/// Full path of an engine's program.
 std::string ProgramFile(const EngineRecord& engine);
 
-/// Empties everything above, for a fresh start in one process.
+/// Clears all of the above, for a test that starts the program again.
 void ResetState();

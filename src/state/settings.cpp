@@ -1,65 +1,18 @@
 #include "state/settings.h"
 
-#include <variant>
+#include <utility>
 
 #include "platform/facts.h"
 #include "state/engine_files.h"
-#include "state/startup.h"
 #include "text/file_names.h"
 #include "toolkit/dialogs.h"
 
 namespace {
 
-constexpr const char* SettingsMark = "Zorvane Configuration file";
+constexpr const char* SettingsFileMark = "Zorvane Configuration file";
 constexpr const char* CorruptedMessage = "The configuration file was corrupted.";
 
-enum class Default { Mark, Empty, ProgramDirectory, List };
-
-/// The keys of the root, in the order of a new file.
-struct SettingRow {
-    const char* key;
-    std::variant<std::int16_t, Default> value;
-};
-
-constexpr std::int16_t None = NoSelection;
-constexpr std::int16_t DefaultSkill = 2;
-constexpr std::int16_t Off = 0;
-
-constexpr SettingRow Rows[] = {
-    {"type", Default::Mark},
-    {"engine", None},
-    {"iwad", None},
-    {"skill", DefaultSkill},
-    {"map", None},
-    {"fastmonsters", Off},
-    {"nomonsters", Off},
-    {"respawnmonsters", Off},
-    {"deathmatch", Off},
-    {"parameters", Default::Empty},
-    {"lastdir", Default::ProgramDirectory},
-    {"iwads", Default::List},
-    {"engines", Default::List},
-    {"pwads", Default::List},
-};
-
-ConfigValue DefaultValue(const SettingRow& row) {
-    if (const auto* number = std::get_if<std::int16_t>(&row.value)) {
-        return *number;
-    }
-    switch (std::get<Default>(row.value)) {
-        case Default::Mark:
-            return std::string(SettingsMark);
-        case Default::ProgramDirectory:
-            return platform::ProgramDirectory();
-        case Default::List:
-            return std::make_shared<ConfigMap>();
-        case Default::Empty:
-            break;
-    }
-    return std::string();
-}
-
-/// The structure of that key. Where there is none a new one takes its place.
+/// Returns the map of that key, a new one if there is none.
 ConfigMapRef ListOf(std::string_view key) {
     ConfigValue& value = Settings.Root()->Item(key);
     if (!value.IsMap()) {
@@ -119,31 +72,50 @@ void StoreLists() {
 }  // namespace
 
 void InitialiseSettings() {
+    constexpr std::int16_t None = NoSelection;
+    constexpr std::int16_t ThirdSkill = 2;
+    constexpr std::int16_t Off = 0;
+    const std::string directory = platform::ProgramDirectory();
+    const std::pair<const char*, ConfigValue> defaults[] = {
+        {"type", SettingsFileMark},
+        {"engine", None},
+        {"iwad", None},
+        {"skill", ThirdSkill},
+        {"map", None},
+        {"fastmonsters", Off},
+        {"nomonsters", Off},
+        {"respawnmonsters", Off},
+        {"deathmatch", Off},
+        {"parameters", ""},
+        {"lastdir", directory},
+        {"iwads", std::make_shared<ConfigMap>()},
+        {"engines", std::make_shared<ConfigMap>()},
+        {"pwads", std::make_shared<ConfigMap>()},
+    };
     Settings.NewConfiguration();
-    SettingsFileName = JoinPath(platform::ProgramDirectory(), "zorvane.cfg");
-    for (const SettingRow& row : Rows) {
-        Settings.Root()->Add(row.key, DefaultValue(row));
+    for (const auto& [key, value] : defaults) {
+        Settings.Root()->Add(key, value);
     }
+    SettingsFileName = JoinPath(directory, "zorvane.cfg");
 }
 
-void LoadSettings() {
+bool LoadSettings() {
     const platform::Outcome outcome = Settings.LoadConfiguration(SettingsFileName);
     const ConfigValue* type = Settings.Root()->Find("type");
-    const bool isOurs =
-        outcome && type != nullptr && type->IsText() && type->AsText() == SettingsMark;
-    if (!isOurs) {
+    if (!outcome || type == nullptr || !type->IsText() || type->AsText() != SettingsFileMark) {
         desktop::ShowMessage(CorruptedMessage, ProgramTitle, desktop::MessageIcon::Critical);
-        ShutDown();
+        return false;
     }
     LoadLists();
+    return true;
 }
 
 platform::Outcome SaveSettings() {
     StoreLists();
-    return SaveDefaults();
+    return WriteSettings();
 }
 
-platform::Outcome SaveDefaults() {
+platform::Outcome WriteSettings() {
     return Settings.SaveConfiguration(SettingsFileName);
 }
 

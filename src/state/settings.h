@@ -1,11 +1,12 @@
-// The settings file: everything that the user chose, in one configuration text beside the program.
+// The settings file: everything that the user chose, as one configuration text in the program
+// directory.
 //
 //     type = "Zorvane Configuration file";
-//     engine = 0;                              selected rows, from 0, -1 for none
+//     engine = 0;                              selected rows, from 0; -1 for none
 //     iwad = 0;
 //     skill = 2;
 //     map = 6;
-//     fastmonsters = 0;                        boxes, 0 or 1
+//     fastmonsters = 0;                        check boxes, 0 or 1
 //     nomonsters = 0;
 //     respawnmonsters = 0;
 //     deathmatch = 0;
@@ -15,8 +16,8 @@
 //     engines   { Engine_Name { path = "C:\\Engine"; options = "1000000000000000"; } }
 //     pwads     { 0 = "C:\\wads\\castle.wad"; }
 //
-// The blanks of an engine's name stand as characters of code 1. The number keys of `iwads` and
-// `pwads` are written fresh at each save; the order of the entries is the order of the lists.
+// The key of an engine is its EngineKey. In `iwads` and `pwads` only the order of the entries
+// counts; each save numbers them again. A game's value without "|" is both name and file.
 #pragma once
 
 #include <cstdint>
@@ -27,32 +28,29 @@
 #include "state/records.h"
 #include "toolkit/window.h"
 
-/// Makes the default settings and finds the name of their file.
+/// Replaces Settings by the defaults and sets SettingsFileName.
 void InitialiseSettings();
 
 /// Reads the settings file into Settings, GameWads, FileList and the paths and options of Engines.
-/// A file of the wrong type, or one that cannot be read, leads to a message and stops the program;
-/// the file stays as it is.
-void LoadSettings();
+/// Shows a message and returns false if the file cannot be read or is of another type.
+[[nodiscard]] bool LoadSettings();
 
-/// Writes the three lists into the tree, and the tree to the file in one step. On failure the old
-/// file is whole.
-platform::Outcome SaveSettings();
+/// Copies the three lists into Settings and writes the file.
+[[nodiscard]] platform::Outcome SaveSettings();
 
-/// Writes the tree as it stands, for the first run.
-platform::Outcome SaveDefaults();
+/// Writes Settings to the file as it is, atomically: a failure leaves the old file whole.
+[[nodiscard]] platform::Outcome WriteSettings();
 
-/// Sixteen characters, "1" for each option that is on and "0" for the others, and back. Characters
-/// other than "1" change no option, nor do those behind the sixteenth.
+/// Returns sixteen characters: "1" for an option that is on, "0" for one that is off.
 std::string OptionsToString(const EngineOptions& options);
+/// Turns on the options for which the text has a "1"; leaves the others unchanged.
 void OptionsFromString(std::string_view text, EngineOptions& options);
 
-/// A key of the settings as a whole number, rounded; 0 for a text that is none. A key that is not
-/// there is entered with the value nothing.
+/// The value of a setting, rounded to a whole number (0 for a text that is no number) or as text.
+/// Enters an absent key without a value.
 std::int32_t SettingNumber(std::string_view key);
-/// The same as a text.
 std::string SettingText(std::string_view key);
-/// Replaces the value of a key. Numbers go in as 16-bit ones.
+/// Replaces the value of a setting. A number is stored as a 16-bit one.
 void StoreSetting(std::string_view key, int number);
 void StoreSetting(std::string_view key, const std::string& text);
 

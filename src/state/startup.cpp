@@ -15,32 +15,39 @@ Application TheApplication;
 
 namespace {
 
-/// The settings are the user's, so that an end of the run has to save them.
-bool settingsAreOurs = false;
+// Before this, `Settings` contains defaults that must not replace the user's file.
+bool settingsLoaded = false;
 bool shuttingDown = false;
 
-void TellUnsaved(const platform::Outcome& outcome) {
-    if (!outcome) {
+void ReportUnsaved(const platform::Outcome& saved) {
+    if (!saved) {
         desktop::ShowMessage(
-            "The settings could not be saved to " + SettingsFileName + "\r\n" + outcome.reason,
+            "The settings could not be saved to " + SettingsFileName + "\r\n" + saved.reason,
             ProgramTitle, desktop::MessageIcon::Critical);
     }
+}
+
+/// Loads the settings, or creates them on a first run.
+bool PrepareSettings() {
+    if (platform::Exists(SettingsFileName)) {
+        return LoadSettings();
+    }
+    ReportUnsaved(WriteSettings());
+    return true;
 }
 
 }  // namespace
 
 void Main() {
-    settingsAreOurs = false;
     shuttingDown = false;
     const std::string directory = platform::ProgramDirectory();
     InitialiseSettings();
-    ScanEngineFiles(JoinPath(directory, "engines"));
-    if (platform::Exists(SettingsFileName)) {
-        LoadSettings();
-    } else {
-        TellUnsaved(SaveDefaults());
+    // The engines come first: loading the settings fills in their paths and options.
+    settingsLoaded = ScanEngineFiles(JoinPath(directory, "engines")) && PrepareSettings();
+    if (!settingsLoaded) {
+        ShutDown();
+        return;
     }
-    settingsAreOurs = true;
     Autodetect.LoadConfiguration(JoinPath(directory, "autodetect.cfg"));
 
     for (toolkit::Window* window : TheApplication.windows) {
@@ -53,12 +60,13 @@ void Main() {
 }
 
 void ShutDown() {
+    // Unloading the main window may raise its close request, which calls this again.
     if (shuttingDown) {
         return;
     }
     shuttingDown = true;
-    if (settingsAreOurs) {
-        TellUnsaved(SaveSettings());
+    if (settingsLoaded) {
+        ReportUnsaved(SaveSettings());
     }
     std::for_each(TheApplication.windows.rbegin(), TheApplication.windows.rend(),
                   [](toolkit::Window* window) { window->Unload(); });

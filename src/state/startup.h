@@ -1,4 +1,4 @@
-// The way in and the only regular way out.
+// Start and end of the program.
 #pragma once
 
 #include <functional>
@@ -8,18 +8,20 @@ namespace toolkit {
 class Window;
 }
 
-/// What there is to bring up. `main` fills it in, so that nothing here has to know a window.
+/// What to start. ConnectApplication (mainwindow/application.h) fills it in, so that nothing here
+/// depends on a window.
 struct Application {
-    std::vector<toolkit::Window*> windows;  // in loading order; the first one is the main window
-    std::function<void()> afterLoading;  // runs when all of them are loaded, before the first shows
+    std::vector<toolkit::Window*> windows;  // in loading order; the first is the main window
+    std::function<void()> afterLoading;     // runs once all are loaded, before the first is shown
 };
 extern Application TheApplication;
 
-/// Brings everything up in its fixed order: settings, engines, known game WADs, windows. On a first
-/// run the default settings are written at once. Returns with the main window on the screen.
+/// Reads the settings, the engine files and the table of known games, loads the windows and shows
+/// the main window. On a first run it writes the default settings at once. Calls ShutDown if the
+/// engine files or the settings cannot be used.
 void Main();
 
-/// Saves the settings if they were loaded or made, unloads the windows in reverse order and ends
-/// the process. Does not return, but for a call from inside its own work, which does nothing. When
-/// the settings cannot be written a message names file and reason, and the old file is whole.
+/// Saves the settings if they were loaded or created, unloads the windows in reverse order and ends
+/// the process. A message reports settings that cannot be saved. Never returns; a re-entrant call
+/// is ignored.
 void ShutDown();

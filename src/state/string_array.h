@@ -5,17 +5,17 @@
 #include <string>
 #include <vector>
 
-/// Texts in the order in which they were added, indexed from 0. `Item` and `Remove` trust their
-/// index: it has to be between 0 and Count().
+/// Texts in the order in which they were added, indexed from 0. `Item` and `Remove` do not check
+/// their index: it must be between 0 and Count().
 class clsStringArray {
   public:
-    void Add(std::string AddString) { texts_.push_back(std::move(AddString)); }
-    /// Takes one entry out; the later ones move down.
-    void Remove(std::int32_t Index) { texts_.erase(texts_.begin() + Index); }
-    const std::string& Item(std::int32_t Index) const {
-        return texts_[static_cast<std::size_t>(Index)];
+    void Add(std::string text) { texts_.push_back(std::move(text)); }
+    /// Removes one entry; the later ones move down by one.
+    void Remove(std::int32_t index) { texts_.erase(texts_.begin() + index); }
+    const std::string& Item(std::int32_t index) const {
+        return texts_[static_cast<std::size_t>(index)];
     }
-    /// The highest index, which is the number of entries minus 1, and -1 for an empty list.
+    /// The highest index: the number of entries minus 1, so -1 for an empty list.
     std::int32_t Count() const { return static_cast<std::int32_t>(texts_.size()) - 1; }
     void Clear() { texts_.clear(); }
 

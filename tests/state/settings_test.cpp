@@ -32,7 +32,7 @@ TEST_F(SettingsCase, FirstRunWritesTheDefaultsByteForByte) {
     EXPECT_EQ(SettingsBytes(), expected);
 }
 
-TEST_F(SettingsCase, TakesTheListsFromTheFileAndWritesThemFresh) {
+TEST_F(SettingsCase, ReadsTheListsAndWritesThemAnew) {
     WriteSettings(
         "unknown = \"kept\"; engine = 0; iwad = 0; skill = 2; map = -1;"
         "iwads { 7 = \"A \\\"game\\\"|C:\\\\a|b.wad\"; 3 = \"no bar\"; }"
@@ -54,10 +54,10 @@ TEST_F(SettingsCase, TakesTheListsFromTheFileAndWritesThemFresh) {
     const std::string file = SettingsBytes();
     ASSERT_TRUE(Start());
     Exit();
-    EXPECT_EQ(SettingsBytes(), file) << "a run without a change changes nothing";
+    EXPECT_EQ(SettingsBytes(), file) << "unchanged";
 }
 
-TEST_F(SettingsCase, AFileOfAnotherKindStopsTheProgramAndStays) {
+TEST_F(SettingsCase, KeepsAFileOfAnotherTypeAndStops) {
     const std::string bad[] = {"", "type = \"zorvane configuration file\";", "engine = 1;",
                                "\xff\xfe\0{{{{"s, "type { a = \"Zorvane Configuration file\"; }"};
     for (const std::string& bytes : bad) {
@@ -72,7 +72,7 @@ TEST_F(SettingsCase, AFileOfAnotherKindStopsTheProgramAndStays) {
     EXPECT_EQ(memory::TakeMessage(), "The configuration file was corrupted.");
 }
 
-TEST_F(SettingsCase, ComesUpWithWhatIsLeftOfAFile) {
+TEST_F(SettingsCase, StartsWithWhatIsLeftOfAFile) {
     ASSERT_TRUE(Start());
     const std::string whole = SettingsBytes();
     for (std::size_t length = 45; length < whole.size(); length += 7) {
@@ -80,17 +80,17 @@ TEST_F(SettingsCase, ComesUpWithWhatIsLeftOfAFile) {
         folder.Write("zorvane.cfg", whole.substr(0, length));
         ASSERT_TRUE(Start());
         Exit();
-        ASSERT_TRUE(Start()) << "what was written is whole again";
+        ASSERT_TRUE(Start()) << "the file is whole again";
     }
 }
 
-TEST_F(SettingsCase, TakesValuesOfOtherKindsAndEntersWhatItMisses) {
+TEST_F(SettingsCase, ConvertsValuesOfOtherTypes) {
     WriteSettings(
         "iwads = 5; engines = \"x\"; pwads = 1; engine = \"\"; deathmatch = \"1\"; map {}"
         "skill = 2.6; nomonsters = 1e99;");
     ASSERT_TRUE(Start());
     EXPECT_EQ(SettingNumber("engine"), 0);
-    EXPECT_EQ(SettingNumber("deathmatch"), 1) << "a text counts with the number that it gives";
+    EXPECT_EQ(SettingNumber("deathmatch"), 1) << "a text counts as its number";
     EXPECT_EQ(SettingNumber("absent"), 0);
     EXPECT_EQ(SettingText("another"), "");
     Exit();

@@ -19,11 +19,11 @@ TEST_F(Startup, StopsWithoutAnEngineDefinitionAndLeavesTheSettingsAlone) {
     EXPECT_EQ(SettingsBytes(), before);
     EXPECT_FALSE(frmMain.Visible());
     folder.Write("engines/other.cfg", "type = \"something else\";");
-    EXPECT_TRUE(Start()) << "a file that is no engine is no reason to stop";
+    EXPECT_TRUE(Start()) << "a file that is no engine does not stop the start";
     EXPECT_EQ(EngineCount(), 0);
 }
 
-TEST_F(Startup, PassesOverWhatIsNoEngineAndTakesWhatIsThere) {
+TEST_F(Startup, SkipsFilesThatDefineNoEngine) {
     for (const char* text : {"type = \"ZORVANE ENGINE FILE\";", "type = 1;", "\xff\x01{{{\"\\9"}) {
         ReadEngineFile(folder.Write("one.cfg", text));
         EXPECT_EQ(EngineCount(), 0) << text;
@@ -32,21 +32,25 @@ TEST_F(Startup, PassesOverWhatIsNoEngineAndTakesWhatIsThere) {
                                 "type = \"Zorvane engine file\"; executable { a = 1; } demoext = 7;"
                                 "parameters = \"x\"; filetypes = 1;"));
     ASSERT_EQ(EngineCount(), 1);
-    EXPECT_TRUE(EngineAt(0).parameters.empty() && EngineAt(0).filetypes.empty());
-    EXPECT_EQ(EngineAt(0).executable + EngineAt(0).realname + EngineAt(0).demoext, "7");
+    const EngineRecord& engine = EngineAt(0);
+    EXPECT_EQ(engine.executable, "") << "a structure";
+    EXPECT_EQ(engine.realname, "") << "missing";
+    EXPECT_EQ(engine.demoext, "7");
+    EXPECT_TRUE(engine.parameters.empty());
+    EXPECT_TRUE(engine.filetypes.empty());
 }
 
-TEST_F(Startup, ListsEnginesByNameAndTheFirstOfTwoEqualsCounts) {
+TEST_F(Startup, ListsEnginesByFileNameAndKeepsTheFirstOfTwoEqualOnes) {
     const std::string text = "type = \"Zorvane engine file\"; realname = \"";
     folder.Write("engines/b.cfg", text + "Same Name\"; executable = \"second\";");
     folder.Write("engines/A.cfg", text + "Same Name\"; executable = \"first\";");
     folder.Write("engines/c.CFG", text + "Other\";");
     folder.Write("engines/d.txt", text + "No definition\";");
-    ScanEngineFiles(folder.Path("engines"));
+    ASSERT_TRUE(ScanEngineFiles(folder.Path("engines")));
     ASSERT_EQ(EngineCount(), 2);
     EXPECT_EQ(EngineAt(0).executable, "first");
     EXPECT_EQ(EngineAt(1).realname, "Other");
-    EXPECT_EQ(EngineKey("Two  blanks"), "Two\1\1blanks");
+    EXPECT_EQ(EngineKey("Two  spaces"), "Two\1\1spaces");
 }
 
 TEST_F(Startup, QuotedPathsOfTheCommandLineReplaceTheFileList) {
@@ -64,7 +68,7 @@ TEST_F(Startup, QuotedPathsOfTheCommandLineReplaceTheFileList) {
         Exit();
         memory::machine.commandLine = "";
         ASSERT_TRUE(Start());
-        EXPECT_EQ(driver::ShownItems(frmMain.lstFiles), files) << "and that is what is saved";
+        EXPECT_EQ(driver::ShownItems(frmMain.lstFiles), files) << "as saved";
     }
 }
 
