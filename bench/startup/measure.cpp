@@ -1,8 +1,13 @@
-// measure_startup ROUNDS TIME MEMORY PROGRAM BARE...: starts the commands in turn, as often as
-// told, on a screen without a window manager, and prints the medians of the time from the start to
-// the window on the screen and of the memory in use once it is drawn. Fails when PROGRAM takes more
-// than TIME times as long or MEMORY times as much as the first BARE.
+// measure_startup ROUNDS LIMITS PROGRAM BARE...: starts the commands in turn on an X display
+// without a window manager and prints the medians of each, and PROGRAM's ratios to each BARE.
+// LIMITS are the largest ratios to the first BARE, in the order of the table, separated by commas;
+// exceeding one is a failure. "@size" in a command stands for the width and height of PROGRAM's
+// window.
+//
+// measure_startup once COMMAND: starts the command, ends it by SIGUSR1 once its window is drawn,
+// and returns. For a command that counts something itself, such as valgrind.
 #include <X11/Xlib.h>
+#include <X11/extensions/Xdamage.h>
 #include <poll.h>
 #include <signal.h>
 #include <spawn.h>
@@ -14,21 +19,31 @@
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
+#include <filesystem>
 #include <fstream>
+#include <sstream>
 #include <string>
 #include <thread>
 #include <vector>
 
 namespace {
 
-struct Samples {
-    std::vector<double> milliseconds;
-    std::vector<double> kibibytes;
+using Clock = std::chrono::steady_clock;
+
+constexpr std::array Rows = {"start to mapped window, ms", "start to first content, ms",
+                             "processor time until settled, ms", "resident memory, KiB"};
+
+/// One value per row.
+using Sample = std::array<double, Rows.size()>;
+
+struct WindowSize {
+    int width = 0;
+    int height = 0;
 };
 
-double Median(std::vector<double> values) {
-    std::ranges::sort(values);
-    return values[values.size() / 2];
+[[noreturn]] void Fail(const char* what) {
+    std::fprintf(stderr, "%s\n", what);
+    std::exit(2);
 }
 
 double ResidentKibibytes(pid_t process) {
@@ -41,69 +56,179 @@ double ResidentKibibytes(pid_t process) {
     return 0;
 }
 
-/// Waits for the next window that a program, and not a menu or a tip, puts on the screen.
-void WaitForWindow(Display* display) {
-    constexpr int patience = 30000;  // milliseconds
-    XEvent event;
-    do {
-        pollfd events = {ConnectionNumber(display), POLLIN, 0};
-        if (XPending(display) == 0 && poll(&events, 1, patience) <= 0) {
-            std::fputs("The program shows no window\n", stderr);
-            std::exit(2);
-        }
-        XNextEvent(display, &event);
-    } while (event.type != MapNotify || event.xmap.override_redirect != 0);
+/// Processor time of all threads. /proc/PID/stat counts in ticks of 10 ms, schedstat in
+/// nanoseconds.
+double ProcessorMilliseconds(pid_t process) {
+    double nanoseconds = 0;
+    for (const auto& task :
+         std::filesystem::directory_iterator("/proc/" + std::to_string(process) + "/task")) {
+        double ofTask = 0;
+        std::ifstream(task.path() / "schedstat") >> ofTask;
+        nanoseconds += ofTask;
+    }
+    return nanoseconds / 1e6;
 }
 
-void MeasureOnce(Display* display, const std::string& command, Samples& samples) {
-    using Clock = std::chrono::steady_clock;
-    XSync(display, True);  // nothing that the program before it did counts
-    const auto start = Clock::now();
+pid_t Start(const std::string& command) {
     const std::string line = "exec " + command;
     const char* const arguments[] = {"sh", "-c", line.c_str(), nullptr};
     pid_t process = 0;
     if (posix_spawn(&process, "/bin/sh", nullptr, nullptr, const_cast<char**>(arguments),
                     environ) != 0) {
-        std::perror("/bin/sh");
-        std::exit(2);
+        Fail("cannot start /bin/sh");
     }
-    WaitForWindow(display);
-    const std::chrono::duration<double, std::milli> taken = Clock::now() - start;
-    samples.milliseconds.push_back(taken.count());
-    std::this_thread::sleep_for(std::chrono::milliseconds(400));
-    samples.kibibytes.push_back(ResidentKibibytes(process));
+    return process;
+}
+
+/// The X display and what happens to top-level windows there.
+class TopLevelWindows {
+  public:
+    TopLevelWindows() : display_(XOpenDisplay(nullptr)) {
+        int firstError = 0;
+        if (display_ == nullptr || XDamageQueryExtension(display_, &damage_, &firstError) == 0) {
+            Fail("no X display with the extension DAMAGE");
+        }
+        XSetErrorHandler([](Display*, XErrorEvent*) { return 0; });  // windows go away at any time
+        XSelectInput(display_, DefaultRootWindow(display_), SubstructureNotifyMask);
+    }
+    TopLevelWindows(const TopLevelWindows&) = delete;
+    TopLevelWindows& operator=(const TopLevelWindows&) = delete;
+    ~TopLevelWindows() { XCloseDisplay(display_); }
+
+    /// Drops the events of earlier programs.
+    void Forget() { XSync(display_, True); }
+
+    /// Waits until the next program has mapped a window and drawn into it.
+    void WaitForContent(Clock::time_point& mapped, Clock::time_point& drawn, WindowSize& size) {
+        Window window = None;
+        for (;;) {
+            const XEvent event = Next();
+            if (event.type == CreateNotify && event.xcreatewindow.override_redirect == 0) {
+                XDamageCreate(display_, event.xcreatewindow.window, XDamageReportRawRectangles);
+            } else if (event.type == MapNotify && event.xmap.override_redirect == 0) {
+                window = event.xmap.window;
+                mapped = Clock::now();
+            } else if (event.type == damage_ + XDamageNotify && window != None) {
+                const auto& damage = reinterpret_cast<const XDamageNotifyEvent&>(event);
+                // The program's own drawing covers the window; the frame of some systems does not.
+                if (damage.drawable == window) {
+                    drawn = Clock::now();
+                    size = {damage.geometry.width, damage.geometry.height};
+                    return;
+                }
+            }
+        }
+    }
+
+  private:
+    XEvent Next() {
+        constexpr int Patience = 120000;  // milliseconds; valgrind is slow
+        XEvent event;
+        pollfd events = {ConnectionNumber(display_), POLLIN, 0};
+        if (XPending(display_) == 0 && poll(&events, 1, Patience) <= 0) {
+            Fail("the program shows no window");
+        }
+        XNextEvent(display_, &event);
+        return event;
+    }
+
+    Display* display_;
+    int damage_ = 0;
+};
+
+Sample MeasureOnce(TopLevelWindows& screen, const std::string& command, WindowSize& size) {
+    screen.Forget();
+    const auto start = Clock::now();
+    const pid_t process = Start(command);
+    Clock::time_point mapped;
+    Clock::time_point drawn;
+    screen.WaitForContent(mapped, drawn, size);
+    std::this_thread::sleep_for(std::chrono::milliseconds(400));  // by then nothing goes on
+    const std::chrono::duration<double, std::milli> toMapped = mapped - start;
+    const std::chrono::duration<double, std::milli> toDrawn = drawn - start;
+    const Sample sample = {toMapped.count(), toDrawn.count(), ProcessorMilliseconds(process),
+                           ResidentKibibytes(process)};
     kill(process, SIGKILL);
     waitpid(process, nullptr, 0);
+    return sample;
+}
+
+int RunOnce(const std::string& command) {
+    TopLevelWindows screen;
+    const pid_t process = Start(command);
+    Clock::time_point mapped;
+    Clock::time_point drawn;
+    WindowSize size;
+    screen.WaitForContent(mapped, drawn, size);
+    std::this_thread::sleep_for(std::chrono::seconds(3));
+    kill(process, SIGUSR1);
+    waitpid(process, nullptr, 0);
+    return EXIT_SUCCESS;
+}
+
+double Median(const std::vector<Sample>& samples, std::size_t row) {
+    std::vector<double> values;
+    for (const Sample& sample : samples) {
+        values.push_back(sample[row]);
+    }
+    std::ranges::sort(values);
+    return values[values.size() / 2];
+}
+
+/// Puts the size in the place of "@size".
+std::string WithSize(std::string command, const WindowSize& size) {
+    const std::string mark = "@size";
+    const std::size_t at = command.find(mark);
+    return at == std::string::npos
+               ? command
+               : command.replace(at, mark.size(),
+                                 std::to_string(size.width) + " " + std::to_string(size.height));
+}
+
+/// Prints the table; returns whether every ratio to the first bare command keeps its limit.
+bool Report(const std::vector<std::vector<Sample>>& samples, const std::string& limits) {
+    bool allKept = true;
+    std::istringstream rest(limits);
+    for (std::size_t row = 0; row < Rows.size(); ++row) {
+        const double ours = Median(samples[0], row);
+        std::printf("%-34s %9.1f", Rows[row], ours);
+        for (std::size_t at = 1; at < samples.size(); ++at) {
+            const double bare = Median(samples[at], row);
+            std::printf("  beside %9.1f: %.2f", bare, ours / bare);
+        }
+        std::string limit;
+        if (std::getline(rest, limit, ',')) {
+            const bool kept = ours <= std::stod(limit) * Median(samples[1], row);
+            std::printf("  (limit %s%s)", limit.c_str(), kept ? "" : ", exceeded");
+            allKept = allKept && kept;
+        }
+        std::printf("\n");
+    }
+    return allKept;
 }
 
 }  // namespace
 
 int main(int argumentCount, char** arguments) {
-    Display* display = argumentCount > 5 ? XOpenDisplay(nullptr) : nullptr;
-    if (display == nullptr) {
-        std::fputs("usage, on an X display: measure_startup ROUNDS TIME MEMORY PROGRAM BARE...\n",
-                   stderr);
-        return 2;
+    const std::vector<std::string> words(arguments + 1, arguments + argumentCount);
+    if (words.size() == 2 && words[0] == "once") {
+        return RunOnce(words[1]);
     }
-    XSelectInput(display, DefaultRootWindow(display), SubstructureNotifyMask);
-    const std::vector<std::string> commands(arguments + 4, arguments + argumentCount);
-    std::vector<Samples> samples(commands.size());
-    for (int round = 0; round < std::atoi(arguments[1]); ++round) {
-        for (std::size_t at = 0; at < commands.size(); ++at) {
-            MeasureOnce(display, commands[at], samples[at]);
+    if (words.size() < 4) {
+        Fail("usage, on an X display: measure_startup ROUNDS LIMITS PROGRAM BARE...");
+    }
+    TopLevelWindows screen;
+    WindowSize size;
+    MeasureOnce(screen, words[2], size);
+    std::vector<std::vector<Sample>> samples(words.size() - 2);
+    for (int round = 0; round < std::stoi(words[0]); ++round) {
+        for (std::size_t at = 0; at < samples.size(); ++at) {
+            WindowSize ignored;
+            samples[at].push_back(
+                MeasureOnce(screen, WithSize(words[at + 2], size), at == 0 ? size : ignored));
         }
     }
-    const double time = Median(samples[0].milliseconds);
-    const double memory = Median(samples[0].kibibytes);
-    std::printf("shown after %6.1f ms, %7.0f KiB   %s\n", time, memory, commands[0].c_str());
-    for (std::size_t at = 1; at < commands.size(); ++at) {
-        const double bareTime = Median(samples[at].milliseconds);
-        const double bareMemory = Median(samples[at].kibibytes);
-        std::printf("shown after %6.1f ms, %7.0f KiB   %s: %.2f times the time, %.2f the memory\n",
-                    bareTime, bareMemory, commands[at].c_str(), time / bareTime,
-                    memory / bareMemory);
-    }
-    const bool isFast = time <= std::atof(arguments[2]) * Median(samples[1].milliseconds);
-    const bool isSmall = memory <= std::atof(arguments[3]) * Median(samples[1].kibibytes);
-    return isFast && isSmall ? 0 : 1;
+    std::printf("medians of %s starts, window of %d x %d pixels\n", words[0].c_str(), size.width,
+                size.height);
+    return Report(samples, words[1]) ? EXIT_SUCCESS : EXIT_FAILURE;
 }
