@@ -18,7 +18,7 @@ std::vector<std::string> LumpNames(const clsWad& wad) {
 }
 
 void Walk(const clsWad& wad) {
-    Require(LowestMap(wad).empty() || !MapNames(wad).empty(), "the lowest map is one of several");
+    Require(!LowestMap(wad) || !MapNames(wad).empty(), "the lowest map is one of the maps");
     for (std::int32_t lump = 0; lump < wad.Directory().StoredCount() + 2; ++lump) {
         const std::string name = UpperCase(wad.LumpName(lump));
         const std::int32_t found = wad.NumForName(name);

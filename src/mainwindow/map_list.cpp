@@ -1,3 +1,4 @@
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -20,14 +21,14 @@ void MainWindow::FillMapList(const std::string& fileName, toolkit::ComboBox& map
 
 void MainWindow::UseFirstMap() {
     const std::string fileName = SelectedFile();
-    std::string firstMap;
+    std::optional<std::string> firstMap;
     {
         clsWad wad;
         wad.OpenWad(fileName);
         firstMap = LowestMap(wad);
     }
     const std::string shownPath = LowerCase(fileName);
-    if (firstMap.empty()) {
+    if (!firstMap) {
         desktop::ShowMessage("There are no map lumps in " + shownPath + ".", ProgramTitle,
                              desktop::MessageIcon::Information);
         return;
@@ -38,9 +39,9 @@ void MainWindow::UseFirstMap() {
             return;
         }
     }
-    Warn("Warning: The map " + firstMap +
+    Warn("Warning: The map " + *firstMap +
          " does not appear in the game WAD.\r\n"
          "Make sure you have selected the game WAD matching the one needed for " +
          shownPath + ".");
-    cmbMaps.SetText(firstMap);
+    cmbMaps.SetText(*firstMap);
 }

@@ -19,7 +19,7 @@ std::vector<std::string> MapNames(const clsWad& wad) {
     return names;
 }
 
-std::string LowestMap(const clsWad& wad) {
+std::optional<std::string> LowestMap(const clsWad& wad) {
     const std::string noMapYet(8, '\xFF');
     std::string lowest = noMapYet;
     for (std::int32_t map = NextMap(wad, 0); map >= 0; map = NextMap(wad, map + 1)) {
@@ -29,5 +29,5 @@ std::string LowestMap(const clsWad& wad) {
             map += DataLumps;
         }
     }
-    return lowest == noMapYet ? std::string() : lowest;
+    return lowest == noMapYet ? std::nullopt : std::optional(lowest);
 }

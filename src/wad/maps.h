@@ -1,6 +1,7 @@
 // The maps of a WAD. A map is a lump of any name that is followed by a lump named exactly "THINGS".
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -10,6 +11,7 @@
 /// are skipped, so a map among them is not listed.
 std::vector<std::string> MapNames(const clsWad& wad);
 
-/// The map whose name is the lowest in byte order, empty if there is none. Ten lumps are skipped
-/// only after a map that is the lowest so far.
-std::string LowestMap(const clsWad& wad);
+/// The map whose name is the lowest in byte order; a map without a name is the lowest of all. Names
+/// must be below eight bytes of 0xFF. Ten lumps are skipped only after a map that is the lowest so
+/// far.
+std::optional<std::string> LowestMap(const clsWad& wad);

@@ -10,7 +10,7 @@
 
 namespace {
 
-constexpr std::int32_t MaxLumps = 1 << 27;  // a directory of 2 GiB
+constexpr std::int32_t MaxLumps = 1 << 22;  // a directory of 64 MiB
 
 std::int32_t Clamped(std::int64_t number) {
     using Limits = std::numeric_limits<std::int32_t>;

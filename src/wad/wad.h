@@ -22,7 +22,7 @@ class clsWad {
 
     /// Opens a WAD and reads its directory, for writing too where the file allows it. No-op unless
     /// the name is that of an ordinary file. A file that is no WAD, that the system refuses to open
-    /// or that claims less than -1 or more than 2^27 lumps (2 GiB) leaves the instance without a
+    /// or that claims less than -1 or more than 2^22 lumps leaves the instance without a
     /// file. A number of -1 means that there is no directory.
     void OpenWad(std::string fileName);
 

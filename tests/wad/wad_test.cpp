@@ -43,8 +43,8 @@ TEST_F(Wad, ReadsOrRefusesHeaders) {
         {"half a count", "PWAD\2"s, "1"},
         {"unfinished", Header("PWAD", -1, 12), "-2"},
         {"count -2", Header("IWAD", -2, 12), none},
-        {"more than 2 GiB", Header("IWAD", (1 << 27) + 1, 12), none},
-        {"2 GiB, all cut off", Header("IWAD", 1 << 27, 12), "134217727"},
+        {"more than 64 MiB", Header("IWAD", (1 << 22) + 1, 12), none},
+        {"64 MiB, all cut off", Header("IWAD", 1 << 22, 12), "4194303"},
         {"directory before the file", Header("IWAD", 3, -40), "2"},
         {"directory after the file", Header("IWAD", 3, INT_MAX), "2"},
     };
@@ -121,15 +121,16 @@ Names Lumps(const std::map<std::size_t, std::string>& maps) {
 }
 
 TEST_F(Wad, FindsMapsByTheLumpAfterThem) {
-    const std::tuple<const char*, Names, Names, const char*> rows[] = {
-        {"lower case things", {"MAP01", "things"}, {}, ""},
-        {"nothing before it", {"THINGS", "MAP01"}, {}, ""},
+    const std::tuple<const char*, Names, Names, std::optional<std::string>> rows[] = {
+        {"lower case things", {"MAP01", "things"}, {}, {}},
+        {"nothing before it", {"THINGS", "MAP01"}, {}, {}},
         {"the lowest skips, all skip in the list",
          Lumps({{0, "MAP05"}, {10, "MAP01"}, {20, "MAP07"}, {30, "MAP02"}}),
          {"MAP05", "MAP07"},
          "MAP02"},
         {"by codes", Lumps({{0, "\xC4"}, {11, "M2"}, {22, "M10"}}), {"\xC4", "M2", "M10"}, "M10"},
-        {"highest codes", {std::string(8, '\xFF'), "THINGS"}, {std::string(8, '\xFF')}, ""},
+        {"nameless", Lumps({{0, "MAP01"}, {11, ""}}), {"MAP01", ""}, ""},
+        {"highest codes", {std::string(8, '\xFF'), "THINGS"}, {std::string(8, '\xFF')}, {}},
     };
     for (const auto& [name, lumps, maps, lowest] : rows) {
         SCOPED_TRACE(name);
