@@ -3,10 +3,10 @@
 #include <algorithm>
 
 #include "platform/files.h"
+#include "state/messages.h"
 #include "state/records.h"
 #include "text/ascii.h"
 #include "text/file_names.h"
-#include "toolkit/dialogs.h"
 
 namespace {
 
@@ -61,7 +61,7 @@ void ReadEngineFile(const std::string& fileName) {
 bool ScanEngineFiles(const std::string& directory) {
     const std::vector<std::string> names = platform::ListFiles(directory, "*.cfg");
     if (names.empty()) {
-        desktop::ShowMessage(NoEngineFiles, ProgramTitle, desktop::MessageIcon::Critical);
+        Fail(NoEngineFiles);
         return false;
     }
     for (const std::string& name : names) {

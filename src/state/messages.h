@@ -1,4 +1,4 @@
-// Messages to the player.
+// Messages to the user.
 #pragma once
 
 #include <string>
@@ -6,7 +6,12 @@
 #include "state/records.h"
 #include "toolkit/dialogs.h"
 
-/// Shows a message about something that the player can put right.
+/// Shows a message about something that the user can put right.
 inline void Warn(const std::string& text) {
     desktop::ShowMessage(text, ProgramTitle, desktop::MessageIcon::Exclamation);
+}
+
+/// Shows a message about something that stops the program or that it has lost.
+inline void Fail(const std::string& text) {
+    desktop::ShowMessage(text, ProgramTitle, desktop::MessageIcon::Critical);
 }

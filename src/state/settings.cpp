@@ -3,14 +3,24 @@
 #include <utility>
 
 #include "platform/facts.h"
+#include "platform/files.h"
 #include "state/engine_files.h"
+#include "state/messages.h"
 #include "text/file_names.h"
-#include "toolkit/dialogs.h"
 
 namespace {
 
 constexpr const char* SettingsFileMark = "Zorvane Configuration file";
-constexpr const char* CorruptedMessage = "The configuration file was corrupted.";
+
+/// The settings file as this run last read or wrote it.
+std::string knownFile;
+
+platform::Outcome KeepFileOfAnotherRun() {
+    platform::Outcome read;
+    const std::string bytes = platform::ReadWholeFile(SettingsFileName, read);
+    return read && bytes != knownFile ? platform::ReplaceWholeFile(SettingsFileName + ".old", bytes)
+                                      : platform::Outcome{};
+}
 
 /// Returns the map of that key, a new one if there is none.
 ConfigMapRef ListOf(std::string_view key) {
@@ -97,13 +107,20 @@ void InitialiseSettings() {
         Settings.Root()->Add(key, value);
     }
     SettingsFileName = JoinPath(directory, "zorvane.cfg");
+    knownFile.clear();
 }
 
 bool LoadSettings() {
-    const platform::Outcome outcome = Settings.LoadConfiguration(SettingsFileName);
+    platform::Outcome outcome;
+    knownFile = platform::ReadWholeFile(SettingsFileName, outcome);
+    if (!outcome) {
+        Fail("The settings could not be read from " + SettingsFileName + "\r\n" + outcome.reason);
+        return false;
+    }
+    Settings.InputConfiguration(knownFile);
     const ConfigValue* type = Settings.Root()->Find("type");
-    if (!outcome || type == nullptr || !type->IsText() || type->AsText() != SettingsFileMark) {
-        desktop::ShowMessage(CorruptedMessage, ProgramTitle, desktop::MessageIcon::Critical);
+    if (type == nullptr || !type->IsText() || type->AsText() != SettingsFileMark) {
+        Fail("The configuration file was corrupted.");
         return false;
     }
     LoadLists();
@@ -116,7 +133,14 @@ platform::Outcome SaveSettings() {
 }
 
 platform::Outcome WriteSettings() {
-    return Settings.SaveConfiguration(SettingsFileName);
+    platform::Outcome outcome = KeepFileOfAnotherRun();
+    if (outcome) {
+        outcome = Settings.SaveConfiguration(SettingsFileName);
+    }
+    if (outcome) {
+        knownFile = Settings.OutputConfiguration();
+    }
+    return outcome;
 }
 
 std::string OptionsToString(const EngineOptions& options) {

@@ -32,13 +32,15 @@
 void InitialiseSettings();
 
 /// Reads the settings file into Settings, GameWads, FileList and the paths and options of Engines.
-/// Shows a message and returns false if the file cannot be read or is of another type.
+/// Shows a message and returns false if the file cannot be read or is of another type; the file
+/// stays as it is.
 [[nodiscard]] bool LoadSettings();
 
 /// Copies the three lists into Settings and writes the file.
 [[nodiscard]] platform::Outcome SaveSettings();
 
-/// Writes Settings to the file as it is, atomically: a failure leaves the old file whole.
+/// Writes Settings to the file as it is, atomically: a failure leaves the old file whole. A file
+/// that is not the one that this run read or wrote is kept as `zorvane.cfg.old`.
 [[nodiscard]] platform::Outcome WriteSettings();
 
 /// Returns sixteen characters: "1" for an option that is on, "0" for one that is off.

@@ -5,10 +5,10 @@
 #include "platform/facts.h"
 #include "platform/files.h"
 #include "state/engine_files.h"
+#include "state/messages.h"
 #include "state/records.h"
 #include "state/settings.h"
 #include "text/file_names.h"
-#include "toolkit/dialogs.h"
 #include "toolkit/window.h"
 
 Application TheApplication;
@@ -21,9 +21,8 @@ bool shuttingDown = false;
 
 void ReportUnsaved(const platform::Outcome& saved) {
     if (!saved) {
-        desktop::ShowMessage(
-            "The settings could not be saved to " + SettingsFileName + "\r\n" + saved.reason,
-            ProgramTitle, desktop::MessageIcon::Critical);
+        Fail("The settings could not be saved to " + SettingsFileName + "\r\n" + saved.reason +
+             "\r\nPlease check that you may write to its folder and that the disk is not full.");
     }
 }
 

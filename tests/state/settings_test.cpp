@@ -69,7 +69,20 @@ TEST_F(SettingsCase, KeepsAFileOfAnotherTypeAndStops) {
     std::filesystem::remove(folder.Native("zorvane.cfg"));
     folder.Write("zorvane.cfg/file", "in a folder of that name");
     EXPECT_FALSE(Start());
-    EXPECT_EQ(memory::TakeMessage(), "The configuration file was corrupted.");
+    EXPECT_TRUE(memory::TakeMessage().starts_with("The settings could not be read from " +
+                                                  folder.Path("zorvane.cfg\r\n")));
+}
+
+TEST_F(SettingsCase, KeepsTheFileThatAnotherRunWrote) {
+    ASSERT_TRUE(Start());
+    Exit();
+    EXPECT_FALSE(exists(folder.Native("zorvane.cfg.old")));
+    ASSERT_TRUE(Start());
+    const std::string other = SettingsBytes() + "other = 1;";
+    folder.Write("zorvane.cfg", other);
+    Exit();
+    EXPECT_EQ(folder.Read("zorvane.cfg.old"), other);
+    EXPECT_EQ(SettingsBytes().find("other"), std::string::npos);
 }
 
 TEST_F(SettingsCase, StartsWithWhatIsLeftOfAFile) {
