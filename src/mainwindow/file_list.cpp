@@ -10,6 +10,7 @@
 #include "platform/files.h"
 #include "state/records.h"
 #include "text/ascii.h"
+#include "text/file_names.h"
 #include "toolkit/desktop.h"
 
 namespace {
@@ -47,27 +48,12 @@ void MainWindow::FillFileList() {
         }
     } else {
         FileList.Clear();
-        TakeFilesFromCommandLine(commandLine);
+        for (std::string& path : QuotedPaths(commandLine)) {
+            AddToFileList(std::move(path));
+        }
     }
     if (lstFiles.ListCount() > 0) {
         lstFiles.SetListIndex(0);
-    }
-}
-
-void MainWindow::TakeFilesFromCommandLine(std::string_view commandLine) {
-    bool insideQuotes = false;
-    std::string path;
-    for (const char character : commandLine) {
-        if (character != '"') {
-            if (insideQuotes) {
-                path += character;
-            }
-            continue;
-        }
-        if (insideQuotes) {
-            AddToFileList(std::exchange(path, {}));
-        }
-        insideQuotes = !insideQuotes;
     }
 }
 

@@ -122,7 +122,6 @@ class MainWindow : public toolkit::Window {
 
     void ConnectFileList();  // file_list.cpp
     void AddToFileList(std::string path);
-    void TakeFilesFromCommandLine(std::string_view commandLine);
     void AddFiles();
     void RemoveFile();
     void ClearFiles();

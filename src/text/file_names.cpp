@@ -6,6 +6,20 @@ std::string JoinPath(std::string_view directory, std::string_view name) {
     return std::string(directory).append(1, '\\').append(name);
 }
 
+std::vector<std::string> QuotedPaths(std::string_view commandLine) {
+    std::vector<std::string> paths;
+    std::size_t open = commandLine.find('"');
+    while (open != std::string_view::npos) {
+        const std::size_t close = commandLine.find('"', open + 1);
+        if (close == std::string_view::npos) {
+            break;
+        }
+        paths.emplace_back(commandLine.substr(open + 1, close - open - 1));
+        open = commandLine.find('"', close + 1);
+    }
+    return paths;
+}
+
 bool MatchesPattern(std::string_view name, std::string_view pattern) {
     // On a mismatch, the last `*` takes one more character and matching resumes after it. Earlier
     // ones need no second try, so the time is at most the product of both lengths.

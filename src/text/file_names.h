@@ -3,9 +3,13 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 /// Returns directory, backslash, name. A directory that ends in a backslash gets a second one.
 std::string JoinPath(std::string_view directory, std::string_view name);
+
+/// Returns the texts between double quotes, in order. Skips what is outside, and an unclosed quote.
+std::vector<std::string> QuotedPaths(std::string_view commandLine);
 
 /// Whether the whole name matches the pattern: `*` matches any characters, `?` exactly one.
 bool MatchesPattern(std::string_view name, std::string_view pattern);
