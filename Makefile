@@ -1,81 +1,83 @@
-# Thin names over CMake. Each first installs what this machine lacks (on Debian and its family).
+# Short names for CMake builds. Each target first installs the packages that it needs and this machine
+# lacks, on Debian and its family; NO_INSTALL=1 uses the machine as it is.
 MAKEFLAGS += --no-print-directory
-INSTALL := scripts/install-packages
+INSTALL := $(if $(NO_INSTALL),@:,@scripts/install-packages)
 SECONDS_PER_TARGET ?= 60
 
 .PHONY: help run prepare-run tour test sanitize bench fuzz windows test-windows bench-windows \
 	package test-package format lint clean
 
 help:
-	@echo 'make run           build Zorvane and start it; without a display, take a tour with pictures'
-	@echo 'make tour          the journey through every window on a virtual display, with pictures'
+	@echo 'make run           build Zorvane and start it; without a display, run the tour'
+	@echo 'make tour          drive every window on a virtual display and take screenshots'
 	@echo 'make test          build everything and run every test'
-	@echo 'make sanitize      the tests with faults of memory and undefined behaviour made visible'
-	@echo 'make bench         measure, with other libraries beside ours'
-	@echo 'make fuzz          a minute for each fuzz target (SECONDS_PER_TARGET=60)'
-	@echo 'make windows       the Windows programs and their zips, in dist/'
-	@echo 'make test-windows  the tests of the Windows build, under Wine'
-	@echo 'make bench-windows start-up of the Windows program beside a bare window, under Wine'
-	@echo 'make package       the Debian package, in dist/'
-	@echo 'make test-package  the package, installed, started and purged on this machine'
-	@echo 'make format        bring every source into form'
-	@echo 'make lint          layers, form and clang-tidy'
+	@echo 'make sanitize      run the tests with address and undefined-behaviour sanitizers'
+	@echo 'make bench         run the benchmarks'
+	@echo 'make fuzz          run each fuzz target for a minute (SECONDS_PER_TARGET=60)'
+	@echo 'make windows       build the Windows programs and their zips, in dist/'
+	@echo 'make test-windows  run the tests of the Windows build under Wine'
+	@echo 'make bench-windows measure the start of the Windows program under Wine'
+	@echo 'make package       build the Debian package, in dist/'
+	@echo 'make test-package  install, try and purge the Debian package on this machine'
+	@echo 'make format        format every source'
+	@echo 'make lint          check layers, format and clang-tidy'
 	@echo 'make clean         remove build/ and dist/'
+	@echo 'With NO_INSTALL=1 nothing is installed.'
 
 run: prepare-run
 	@if [ -n "$$DISPLAY$$WAYLAND_DISPLAY" ]; then build/run/zorvane; else $(MAKE) tour; fi
 
-# A program directory ready to use: build/run, with the engines and free games of this machine.
+# build/run: a program folder with settings that name the engines and free games of this machine.
 prepare-run:
-	@$(INSTALL) build desktop engines
+	$(INSTALL) build desktop engines
 	cmake --preset release -DZORVANE_TESTS=OFF
 	cmake --build build/release --target zorvane
 	scripts/prepare-run build/release/src/zorvane build/run
 
 tour: prepare-run
-	@$(INSTALL) test display
+	$(INSTALL) test display
 	cmake --preset release -DZORVANE_TESTS=ON
 	cmake --build build/release --target zorvane_tour
 	scripts/run-tour build/release/tests/e2e/zorvane_tour build/tour
 
 test:
-	@$(INSTALL) build desktop engines test display
+	$(INSTALL) build desktop engines test display
 	cmake --preset release -DZORVANE_TESTS=ON
 	cmake --build build/release
 	@scripts/run-tests build/release
 
-# What Qt and the drivers beneath it never give back is not ours to mend.
+# Leaks inside Qt and its drivers are not ours, so leaks are checked in the other tests only.
 sanitize:
-	@$(INSTALL) build desktop engines test display
+	$(INSTALL) build desktop engines test display
 	cmake --preset asan
 	cmake --build build/asan
 	@ASAN_OPTIONS=detect_leaks=0 scripts/run-tests build/asan --label-regex qt --label-exclude e2e
 	@scripts/run-tests build/asan --label-exclude 'qt|e2e'
 
 bench:
-	@$(INSTALL) build desktop bench display
+	$(INSTALL) build desktop bench display
 	@scripts/get-libucl build/bench/libucl
 	cmake --preset bench
 	cmake --build build/bench
 	@scripts/run-bench build/bench
 
 fuzz:
-	@$(INSTALL) build fuzz
+	$(INSTALL) build fuzz
 	cmake --preset fuzz
 	cmake --build build/fuzz --target fuzz/all
 	@scripts/run-fuzz build/fuzz $(SECONDS_PER_TARGET)
 
 windows:
-	@$(INSTALL) build windows
+	$(INSTALL) build windows
 	cmake --preset win64 -DZORVANE_TESTS=OFF
 	cmake --build build/win64 --target zorvane
 	cmake --preset win32 -DZORVANE_TESTS=OFF
 	cmake --build build/win32 --target zorvane
 	packaging/windows/pack
 
-# What the Windows program leaves, a program of the Linux build goes on with.
+# other_side, a program of the Linux build, reads the settings that the Windows program wrote.
 test-windows:
-	@$(INSTALL) build desktop windows wine test display
+	$(INSTALL) build desktop windows wine test display
 	cmake --preset release -DZORVANE_TESTS=ON
 	cmake --build build/release --target other_side
 	cmake --preset win64 -DZORVANE_TESTS=ON
@@ -83,7 +85,7 @@ test-windows:
 	@tests/windows/under-wine scripts/run-tests build/win64
 
 bench-windows:
-	@$(INSTALL) build desktop bench windows wine display
+	$(INSTALL) build desktop bench windows wine display
 	cmake --preset bench
 	cmake --build build/bench --target measure_startup
 	cmake --preset win64 -DZORVANE_BENCH=ON
@@ -91,20 +93,20 @@ bench-windows:
 	@tests/windows/under-wine bench/startup-windows/run build/bench/bench/measure_startup build/win64
 
 package:
-	@$(INSTALL) build desktop package
+	$(INSTALL) build desktop package
 	packaging/debian/pack
 
 test-package: package
-	@$(INSTALL) display
+	$(INSTALL) display
 	packaging/linux/check-launcher
 	packaging/debian/check
 
 format:
-	@$(INSTALL) lint
+	$(INSTALL) lint
 	scripts/format
 
 lint:
-	@$(INSTALL) build desktop engines test lint
+	$(INSTALL) build desktop engines test lint
 	scripts/check-layers --self-test
 	scripts/check-layers
 	scripts/format --check

@@ -26,7 +26,7 @@ struct MainWindowCase : Session {
 
 TEST_F(MainWindowCase, FirstRunIsEmptyAndSaysWhatIsMissing) {
     ASSERT_TRUE(Start());
-    EXPECT_EQ(frmMain.lblVersion.Caption(), "Version 1.0 build 61");
+    EXPECT_EQ(frmMain.lblVersion.Caption(), "Version 1.2 build 34");
     EXPECT_EQ(frmMain.cmbSkill.Text(), "Hurt me plenty. (3)");
     EXPECT_EQ(frmMain.cmbMaps.Text(), "MAP01");
     EXPECT_EQ(Pressed(frmMain.cmdSettings), "");

@@ -45,7 +45,7 @@ std::string ProgramDirectory() {
     return machine.programDirectory;
 }
 VersionNumbers ProgramVersion() {
-    return {1, 0, 61};
+    return {1, 2, 34};
 }
 std::string OwnCommandLine() {
     return machine.commandLine;

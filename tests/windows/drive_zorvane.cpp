@@ -136,7 +136,7 @@ void RunGames() {
 
 void FirstRun() {
     const HANDLE zorvane = Start(folder + "\\zorvane.exe");
-    CheckEqual(TextOf(Find(frmMain.lblVersion)), "Version 1.0 build 61", "the version line");
+    CheckEqual(TextOf(Find(frmMain.lblVersion)), ZORVANE_VERSION_LINE, "the version line");
     Check(fs::exists(Native("zorvane.cfg")), "the default settings are there at once");
     TakePicture(Find("Zorvane"), "main-first-run");
     Press(Find(frmMain.cmdRun));
