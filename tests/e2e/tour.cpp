@@ -20,7 +20,7 @@
 #include "setup/engine_settings.h"
 #include "setup/setup.h"
 #include "state/startup.h"
-#include "toolkit/qt/native_window.h"
+#include "toolkit/qt/native_windows.h"
 #include "wad/wad.h"
 
 namespace {
@@ -118,7 +118,7 @@ void ChooseFilesAndMap() {
     Press(frmMain.cmdGetMapLump, {{.shown = "Warning: The map E1M3", .picture = "map-warning"}});
     Choose(frmMain.cmbIWADs, "Freedoom: Phase 1");
     auto& maps =
-        static_cast<QComboBox&>(desktop::NativeOf(&frmMain)->Find(frmMain.cmbMaps).Widget());
+        static_cast<QComboBox&>(desktop::FindNative(&frmMain)->Find(frmMain.cmbMaps).Widget());
     maps.showPopup();
     Picture("maps");
     maps.hidePopup();

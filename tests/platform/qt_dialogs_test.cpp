@@ -143,7 +143,7 @@ TEST(PickedFiles, FillTheBufferOfTheRecord) {
     for (const auto& [paths, text] : cases) {
         desktop::OpenFileName record;
         record.nMaxFile = desktop::FileBufferSize;
-        EXPECT_EQ(desktop::PutPickedFiles(record, paths), !text.empty()) << text;
+        EXPECT_EQ(desktop::StorePickedFiles(record, paths), !text.empty()) << text;
         EXPECT_EQ(record.lpstrFile, Buffer(text));
     }
 }

@@ -6,7 +6,7 @@
 
 #include "contract/form.h"
 #include "driver.h"
-#include "toolkit/qt/native_window.h"
+#include "toolkit/qt/native_windows.h"
 
 namespace {
 
@@ -15,13 +15,13 @@ class QtWindow : public testing::Test {
     QtWindow() {
         form.Load();
         form.lstRows.SetFocus();
-        EXPECT_EQ(desktop::NativeOf(&form), nullptr) << "it is made at its first showing";
+        EXPECT_EQ(desktop::FindNative(&form), nullptr) << "it is made at its first showing";
         form.Show();
     }
     void TearDown() override { form.Unload(); }
 
     QWidget& WidgetOf(const toolkit::Control& control) {
-        return desktop::NativeOf(&form)->Find(control).Widget();
+        return desktop::FindNative(&form)->Find(control).Widget();
     }
 
     Form form;

@@ -11,7 +11,7 @@
 #include <deque>
 
 #include "driver.h"
-#include "toolkit/qt/native_window.h"
+#include "toolkit/qt/native_windows.h"
 #include "toolkit/qt/text.h"
 
 namespace {
@@ -19,13 +19,13 @@ namespace {
 using desktop::Encode;
 using desktop::NativeWindow;
 
-NativeWindow& NativeOf(const toolkit::Window& window) {
-    return *desktop::MakeNative(const_cast<toolkit::Window&>(window));
+NativeWindow& Native(const toolkit::Window& window) {
+    return *desktop::EnsureNative(const_cast<toolkit::Window&>(window));
 }
 
 template <class Widget = QWidget>
 Widget* As(const toolkit::Control& control) {
-    return dynamic_cast<Widget*>(&NativeOf(control.Owner()).Find(control).Widget());
+    return dynamic_cast<Widget*>(&Native(control.Owner()).Find(control).Widget());
 }
 
 /// Where the mouse is used, as a point of the native window.
@@ -95,7 +95,7 @@ std::vector<std::string> ItemsOf(const QAbstractItemModel& model) {
 namespace driver {
 
 void Use(Mouse gesture, toolkit::Control& control, int row) {
-    const NativeWindow& window = NativeOf(control.Owner());
+    const NativeWindow& window = Native(control.Owner());
     const QPoint point = PointOf(control, row);
     if (gesture == Mouse::Move) {
         MoveTo(window, point);
@@ -109,7 +109,7 @@ void Use(Mouse gesture, toolkit::Control& control, int row) {
 
 /// The lower right corner of a window is bare.
 void PointAt(toolkit::Window& window) {
-    MoveTo(NativeOf(window), NativeOf(window).rect().bottomRight());
+    MoveTo(Native(window), Native(window).rect().bottomRight());
 }
 
 void Choose(toolkit::Control& list, int row) {
@@ -138,11 +138,11 @@ void Type(toolkit::Control& control, const std::string& text) {
 }
 
 void Press(toolkit::Window& window, Key key) {
-    QTest::keyClick(NativeOf(window).windowHandle(), static_cast<char>(key));
+    QTest::keyClick(Native(window).windowHandle(), static_cast<char>(key));
 }
 
 void Close(toolkit::Window& window) {
-    NativeOf(window).close();
+    Native(window).close();
 }
 
 void InNextModal(std::function<void()> steps) {
@@ -182,7 +182,7 @@ Look LookAt(const toolkit::Control& control) {
 }
 
 std::string ShownCaption(const toolkit::Window& window) {
-    const NativeWindow& native = NativeOf(window);
+    const NativeWindow& native = Native(window);
     return native.isVisible() ? Encode(native.windowTitle()) : std::string();
 }
 

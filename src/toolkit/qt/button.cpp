@@ -25,7 +25,7 @@ class ButtonWidget : public QPushButton, public NativeControl {
 
     void Apply(Property property, int) override {
         if (property == Property::Caption) {
-            setText(WithoutAccessKeys(Shown(button_.Caption())));
+            setText(EscapeAmpersands(DisplayText(button_.Caption())));
         }
     }
 
@@ -33,7 +33,7 @@ class ButtonWidget : public QPushButton, public NativeControl {
     toolkit::Button& button_;
 };
 
-/// As large as the font wants it, whatever the size in which the picture comes.
+/// A button with a picture, whose size follows the font.
 class PictureButtonWidget final : public ButtonWidget {
   public:
     PictureButtonWidget(toolkit::Button& button, QWidget& parent) : ButtonWidget(button, parent) {
@@ -44,7 +44,7 @@ class PictureButtonWidget final : public ButtonWidget {
     }
 };
 
-/// The button in the colour of the program, the same on every desktop.
+/// The button in the color of the program, the same on every desktop.
 class AccentButtonWidget final : public ButtonWidget {
   public:
     AccentButtonWidget(toolkit::Button& button, QWidget& parent) : ButtonWidget(button, parent) {
@@ -62,7 +62,7 @@ class AccentButtonWidget final : public ButtonWidget {
                             option.state.testFlag(QStyle::State_KeyboardFocusChange);
         QPainter painter(this);
         painter.setRenderHint(QPainter::Antialiasing);
-        DrawBox(painter, Fill(option), accent.darker(128), 0.5);
+        DrawBox(painter, Fill(option), Accent.darker(128), 0.5);
         if (ringed) {
             DrawBox(painter, Qt::transparent, Qt::white, 3.5);
         }
@@ -80,12 +80,12 @@ class AccentButtonWidget final : public ButtonWidget {
 
     static QColor Fill(const QStyleOptionButton& option) {
         if (!option.state.testFlag(QStyle::State_Enabled)) {
-            return Blend(accent, option.palette.color(QPalette::Window), 0.5);
+            return Blend(Accent, option.palette.color(QPalette::Window), 0.5);
         }
         if (option.state.testFlag(QStyle::State_Sunken)) {
-            return accent.darker(125);
+            return Accent.darker(125);
         }
-        return option.state.testFlag(QStyle::State_MouseOver) ? accent.lighter(112) : accent;
+        return option.state.testFlag(QStyle::State_MouseOver) ? Accent.lighter(112) : Accent;
     }
 };
 

@@ -20,9 +20,9 @@ class CheckBoxWidget final : public QCheckBox, public NativeControl {
 
     void Apply(Property property, int) override {
         if (property == Property::Caption) {
-            setText(WithoutAccessKeys(Shown(box_.Caption())));
+            setText(EscapeAmpersands(DisplayText(box_.Caption())));
         } else if (property == Property::Checked) {
-            const QSignalBlocker silence(this);
+            const QSignalBlocker guard(this);
             setChecked(box_.Checked());
         }
     }

@@ -9,16 +9,16 @@
 namespace desktop {
 namespace {
 
-constexpr int rowsOfOpenList = 16;
+constexpr int OpenListRows = 16;
 
-/// Both kinds of combo box. `activated` comes for the user's choice alone, also for that of the
-/// row that was chosen already.
+/// Both kinds of combo box. Qt emits `activated` only for a choice of the user, also if the row was
+/// already selected.
 class ComboWidget : public QComboBox, public NativeControl {
   public:
     ComboWidget(toolkit::ItemControl& combo, QWidget& parent)
         : QComboBox(&parent), combo_(combo), items_(combo, this) {
         setModel(&items_);
-        setMaxVisibleItems(rowsOfOpenList);
+        setMaxVisibleItems(OpenListRows);
         setSizeAdjustPolicy(AdjustToMinimumContentsLengthWithIcon);
         ComboWidget::Apply(Property::Selection, -1);
         connect(this, &QComboBox::activated, this, [this](int row) { combo_.UserSelects(row); });
@@ -27,9 +27,9 @@ class ComboWidget : public QComboBox, public NativeControl {
     QWidget& Widget() override { return *this; }
 
     void Apply(Property property, int row) override {
-        const QSignalBlocker silence(this);
+        const QSignalBlocker guard(this);
         items_.Follow(property, row);
-        // Qt selects the first row that comes into an empty list, hence also after an item.
+        // Qt selects the first row that is added to an empty list, so check after every change.
         if (property != Property::Text && currentIndex() != combo_.ListIndex()) {
             setCurrentIndex(combo_.ListIndex());
         }
@@ -40,8 +40,8 @@ class ComboWidget : public QComboBox, public NativeControl {
     ItemModel items_;
 };
 
-/// The combo box with an edit field. Qt keeps its row while the user types; what counts is the
-/// control, whose row is gone then.
+/// The combo box with an edit field. Qt keeps its current row while the user types, unlike the
+/// control.
 class EditComboWidget final : public ComboWidget {
   public:
     EditComboWidget(toolkit::ComboBox& combo, QWidget& parent)
@@ -49,7 +49,7 @@ class EditComboWidget final : public ComboWidget {
         setEditable(true);
         setInsertPolicy(NoInsert);
         setCompleter(nullptr);
-        // Qt would choose the row whose text was typed as soon as the field loses the focus.
+        // Without this, Qt selects a row with the typed text when the field loses the focus.
         disconnect(lineEdit(), SIGNAL(editingFinished()), this, nullptr);
         DrawText();
         connect(lineEdit(), &QLineEdit::textEdited, this,
@@ -67,7 +67,7 @@ class EditComboWidget final : public ComboWidget {
     void DrawText() {
         const QString shown = Decode(combo_.Text());
         if (lineEdit()->text() != shown) {
-            const QSignalBlocker silence(lineEdit());
+            const QSignalBlocker guard(lineEdit());
             lineEdit()->setText(shown);
         }
     }

@@ -7,9 +7,9 @@
 namespace desktop {
 namespace {
 
-/// A tool tip that looks like rich text to Qt is a file name all the same.
+/// Qt takes some file names for rich text; these are escaped.
 QString PlainToolTip(const std::string& text) {
-    const QString shown = Shown(text);
+    const QString shown = DisplayText(text);
     return Qt::mightBeRichText(shown) ? Qt::convertFromPlainText(shown) : shown;
 }
 

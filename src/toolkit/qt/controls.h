@@ -1,5 +1,5 @@
-// The kinds of controls. Each makes the widget of a control with the content that it has now; the
-// widget belongs to `parent` and reports what the user does to the control.
+// Creates the widget of each kind of control, with the control's current state. The widget belongs
+// to `parent` and reports to the control what the user does.
 #pragma once
 
 #include "toolkit/lists.h"
@@ -19,7 +19,7 @@ NativeControl* MakeFrame(toolkit::Control& frame, QWidget& parent);
 NativeControl* MakeDivider(toolkit::Control& divider, QWidget& parent);
 NativeControl* MakePicture(toolkit::Control& picture, QWidget& parent);
 
-/// Row of a list box under a point of its client area, as ItemFromPoint of platform/desktop.h.
+/// Implements ItemFromPoint.
 std::uint32_t RowUnderPoint(const NativeControl& listBox, QPoint point);
 
 }  // namespace desktop

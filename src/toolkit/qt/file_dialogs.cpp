@@ -7,7 +7,7 @@
 
 #include "platform/posix/paths.h"
 #include "toolkit/dialogs.h"
-#include "toolkit/qt/native_window.h"
+#include "toolkit/qt/native_windows.h"
 #include "toolkit/qt/picked_files.h"
 #include "toolkit/qt/text.h"
 
@@ -15,11 +15,11 @@ namespace desktop {
 namespace {
 
 QWidget* OwnerOf(const toolkit::Window* window) {
-    QWidget* owner = NativeOf(window);
+    QWidget* owner = FindNative(window);
     return owner != nullptr && owner->isVisible() ? owner : FrontWindow();
 }
 
-/// Bytes of a path as the system's own files have them.
+/// The Windows path of a native path, whose bytes are those of the file system.
 std::string WindowsPathOf(const QString& native) {
     const QByteArray bytes = QFile::encodeName(QDir::cleanPath(native));
     return platform::WindowsPath(
@@ -35,7 +35,7 @@ void StartIn(QFileDialog& dialog, const std::string& folder) {
 }
 
 bool PickFiles(QFileDialog& dialog, OpenFileName& record) {
-    dialog.setWindowTitle(Shown(record.lpstrTitle));
+    dialog.setWindowTitle(DisplayText(record.lpstrTitle));
     dialog.setOption(QFileDialog::HideNameFilterDetails);
     dialog.setNameFilters(NameFilters(record.lpstrFilter));
     StartIn(dialog, record.lpstrInitialDir);
@@ -45,10 +45,10 @@ bool PickFiles(QFileDialog& dialog, OpenFileName& record) {
             paths.push_back(WindowsPathOf(file));
         }
     }
-    return PutPickedFiles(record, paths);
+    return StorePickedFiles(record, paths);
 }
 
-/// Desktops that hide the titles of dialogs, and Qt's own dialog, show the line in the dialog.
+/// Shows the instruction as the title, and also inside Qt's own dialog: some desktops hide titles.
 void ShowInstruction(QFileDialog& dialog, const QString& text) {
     dialog.setWindowTitle(text);
     if (QLayout* layout = dialog.layout()) {
@@ -86,7 +86,7 @@ std::string BrowseForFolderPath(const BrowseInfo& info) {
     QFileDialog dialog(OwnerOf(info.hwndOwner));
     dialog.setFileMode(QFileDialog::Directory);
     dialog.setOption(QFileDialog::ShowDirsOnly);
-    ShowInstruction(dialog, Shown(info.lpszTitle));
+    ShowInstruction(dialog, DisplayText(info.lpszTitle));
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
         return {};
     }

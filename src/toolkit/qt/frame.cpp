@@ -8,7 +8,7 @@
 namespace desktop {
 namespace {
 
-/// Stands under the controls that it goes around; they are no children of it.
+/// Drawn below the controls that it surrounds; they are not its children.
 class FrameWidget final : public QGroupBox, public NativeControl {
   public:
     FrameWidget(toolkit::Control& frame, QWidget& parent) : QGroupBox(&parent), frame_(frame) {
@@ -22,7 +22,7 @@ class FrameWidget final : public QGroupBox, public NativeControl {
 
     void Apply(Property property, int) override {
         if (property == Property::Caption) {
-            setTitle(WithoutAccessKeys(Shown(frame_.Caption())));
+            setTitle(EscapeAmpersands(DisplayText(frame_.Caption())));
         }
     }
 
@@ -42,7 +42,7 @@ class DividerWidget final : public QWidget, public NativeControl {
     }
 };
 
-/// A picture as wide as its window is stretched to its place, another keeps its shape.
+/// A picture as wide as its window is stretched; any other keeps its aspect ratio.
 class PictureWidget final : public QWidget, public NativeControl {
   public:
     PictureWidget(toolkit::Control& picture, QWidget& parent)
@@ -62,7 +62,7 @@ class PictureWidget final : public QWidget, public NativeControl {
     }
 
   private:
-    /// As sharp as the place needs.
+    /// Loads the picture in a resolution that is high enough for its place.
     void Load() {
         pixmap_ = LoadPicture(name_, 1, palette());
         const double stretch = height() * devicePixelRatioF() / std::max(1, pixmap_.height());

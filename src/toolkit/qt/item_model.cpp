@@ -16,7 +16,7 @@ QVariant ItemModel::data(const QModelIndex& index, int role) const {
     if (!isText || !index.isValid() || index.row() >= list_.ListCount()) {
         return {};
     }
-    return Shown(list_.List(index.row()));
+    return DisplayText(list_.List(index.row()));
 }
 
 void ItemModel::Follow(desktop::Property property, int row) {

@@ -1,4 +1,4 @@
-// The items of a list or combo box, read from the control where they are; nothing is copied.
+// The items of a list box or combo box as a Qt model. Reads them from the control without copying.
 #pragma once
 
 #include <QAbstractListModel>
@@ -14,13 +14,13 @@ class ItemModel final : public QAbstractListModel {
     int rowCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role) const override;
 
-    /// Tells the views of a row added or removed or of a cleared list; passes over other
-    /// properties.
+    /// Notifies the views of added, removed and cleared rows; ignores other properties.
     void Follow(desktop::Property property, int row);
 
   private:
     const toolkit::ItemControl& list_;
-    int rows_;  // as the views know it; the control is ahead while it tells of a change
+    int rows_;  // rows that the views know; during a notification the control already has the new
+                // number
 };
 
 }  // namespace desktop

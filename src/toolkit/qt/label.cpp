@@ -8,18 +8,18 @@
 namespace desktop {
 namespace {
 
-/// Height of a plain line of text in dialog units.
-constexpr double lineHeight = 8;
-constexpr double largestTitle = 2.4;
-constexpr QColor smallTitleColour(0xE9, 0xCF, 0xC4);
-/// How far the quiet colour goes towards the background; leaves a contrast above 4.5 to 1.
-constexpr double quietShare = 0.28;
+/// Height of a line of text in dialog units.
+constexpr double LineHeight = 8;
+constexpr double LargestTitle = 2.4;
+constexpr QColor SmallTitleColor(0xE9, 0xCF, 0xC4);
+/// Share of the background in the quiet color; the contrast stays above 4.5:1.
+constexpr double QuietShare = 0.28;
 
 class LabelWidget final : public QLabel, public NativeControl {
   public:
     LabelWidget(toolkit::Label& label, QWidget& parent) : QLabel(&parent), label_(label) {
         setTextFormat(Qt::PlainText);
-        Dress();
+        ApplyFlags();
         Apply(Property::Caption, -1);
     }
 
@@ -27,8 +27,8 @@ class LabelWidget final : public QLabel, public NativeControl {
 
     void Apply(Property property, int) override {
         if (property == Property::Caption) {
-            const QString shown = Shown(label_.Caption());
-            setText(buddy() == nullptr ? shown : WithoutAccessKeys(shown));
+            const QString shown = DisplayText(label_.Caption());
+            setText(buddy() == nullptr ? shown : EscapeAmpersands(shown));
         }
     }
 
@@ -49,12 +49,12 @@ class LabelWidget final : public QLabel, public NativeControl {
     }
 
   private:
-    void Dress() {
+    void ApplyFlags() {
         if (label_.Has(toolkit::Title)) {
-            // The place tells how large it may be.
-            DressText(std::min(largestTitle, label_.Spec().place.height / lineHeight), Qt::white);
+            // As large as the place allows.
+            SetLook(std::min(LargestTitle, label_.Spec().place.height / LineHeight), Qt::white);
         } else if (label_.Has(toolkit::Small)) {
-            DressText(0.92, smallTitleColour);
+            SetLook(0.92, SmallTitleColor);
             setAlignment(Qt::AlignRight | Qt::AlignVCenter);
         }
         if (label_.Has(toolkit::Bold) || label_.Has(toolkit::Title)) {
@@ -64,7 +64,7 @@ class LabelWidget final : public QLabel, public NativeControl {
         }
         if (label_.Has(toolkit::Quiet)) {
             const QColor strong = palette().color(QPalette::WindowText);
-            SetColour(Blend(strong, palette().color(QPalette::Window), quietShare));
+            SetColor(Blend(strong, palette().color(QPalette::Window), QuietShare));
         }
         if (label_.Has(toolkit::Sunken)) {
             setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
@@ -73,27 +73,27 @@ class LabelWidget final : public QLabel, public NativeControl {
             setMargin(5);
         }
         if (label_.Has(toolkit::Link)) {
-            DressLink();
+            SetLinkLook();
         }
     }
 
-    void DressText(double size, const QColor& colour) {
+    void SetLook(double size, const QColor& color) {
         setFont(Scaled(font(), size));
-        SetColour(colour);
+        SetColor(color);
     }
 
-    void DressLink() {
+    void SetLinkLook() {
         QFont underlined = font();
         underlined.setUnderline(true);
         setFont(underlined);
-        SetColour(palette().color(QPalette::Link));
+        SetColor(palette().color(QPalette::Link));
         setCursor(Qt::PointingHandCursor);
         setFocusPolicy(Qt::StrongFocus);
     }
 
-    void SetColour(const QColor& colour) {
+    void SetColor(const QColor& color) {
         QPalette changed = palette();
-        changed.setColor(QPalette::WindowText, colour);
+        changed.setColor(QPalette::WindowText, color);
         setPalette(changed);
     }
 

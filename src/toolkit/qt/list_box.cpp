@@ -12,8 +12,8 @@
 namespace desktop {
 namespace {
 
-/// Rows as wide as the list, so that a long path is shortened in its middle, and no row is
-/// measured.
+/// Makes rows as wide as the list, so that a long path is elided in its middle and no row needs to
+/// be measured.
 class RowDelegate final : public QStyledItemDelegate {
   public:
     using QStyledItemDelegate::QStyledItemDelegate;
@@ -39,7 +39,7 @@ class ListBoxWidget final : public QListView, public NativeControl {
     QWidget& Surface() override { return *viewport(); }
 
     void Apply(Property property, int row) override {
-        const QScopedValueRollback silence(silent_, true);
+        const QScopedValueRollback guard(silent_, true);
         items_.Follow(property, row);
         if (property == Property::Selection) {
             const QModelIndex index = items_.index(list_.ListIndex());
@@ -61,7 +61,7 @@ class ListBoxWidget final : public QListView, public NativeControl {
     }
 
   protected:
-    /// The press selects, the release tells; the right button does neither.
+    /// A press of the left button selects, its release reports. The right button does neither.
     void mousePressEvent(QMouseEvent* event) override {
         if (event->button() == Qt::LeftButton) {
             pressed_ = indexAt(event->position().toPoint()).isValid();
@@ -96,7 +96,7 @@ class ListBoxWidget final : public QListView, public NativeControl {
         }
     }
 
-    /// A click with the Ctrl key would take the selection away.
+    /// By default a click with the Ctrl key clears the selection.
     QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index,
                                                          const QEvent*) const override {
         return index.isValid() ? QItemSelectionModel::ClearAndSelect
@@ -122,7 +122,7 @@ class ListBoxWidget final : public QListView, public NativeControl {
     toolkit::ListBox& list_;
     ItemModel items_;
     RowDelegate rows_;
-    bool silent_ = false;   // drawing
+    bool silent_ = false;   // while applying a change of the program
     bool pressed_ = false;  // the left button is down on a row
 };
 

@@ -12,7 +12,7 @@
 namespace desktop {
 namespace {
 
-/// The control counts rows from 1, Qt from 0.
+/// The rows of a list view as a Qt model. The control counts them from 1, Qt from 0.
 class EntryModel final : public QAbstractTableModel {
   public:
     EntryModel(const toolkit::ListView& list, QObject* parent)
@@ -26,7 +26,7 @@ class EntryModel final : public QAbstractTableModel {
 
     QVariant data(const QModelIndex& index, int role) const override {
         if (role == Qt::SizeHintRole) {
-            // As roomy as the rows of a list box.
+            // The row height of a list box.
             return QSize(0, QFontMetrics(QGuiApplication::font()).height() * 3 / 2);
         }
         const bool isText = role == Qt::DisplayRole || role == Qt::ToolTipRole;
@@ -34,7 +34,7 @@ class EntryModel final : public QAbstractTableModel {
             return {};
         }
         const toolkit::ListView::Entry& entry = list_.At(index.row() + 1);
-        return Shown(index.column() == 0 ? entry.first : entry.second);
+        return DisplayText(index.column() == 0 ? entry.first : entry.second);
     }
 
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override {
@@ -78,7 +78,7 @@ class ListViewWidget final : public QTreeView, public NativeControl {
     QWidget& Surface() override { return *viewport(); }
 
     void Apply(Property property, int row) override {
-        const QScopedValueRollback silence(silent_, true);
+        const QScopedValueRollback guard(silent_, true);
         entries_.Follow(property, row);
         if (property == Property::Selection || property == Property::ItemsCleared) {
             const QModelIndex index = entries_.index(list_.SelectedRow() - 1, 0);
@@ -116,7 +116,7 @@ class ListViewWidget final : public QTreeView, public NativeControl {
   private:
     toolkit::ListView& list_;
     EntryModel entries_;
-    bool silent_ = false;  // drawing
+    bool silent_ = false;  // while applying a change of the program
 };
 
 }  // namespace

@@ -9,13 +9,13 @@
 namespace desktop {
 namespace {
 
-struct RoleColour {
+struct RoleColor {
     QPalette::ColorRole role;
     QRgb light;
     QRgb dark;
 };
 
-constexpr RoleColour roleColours[] = {
+constexpr RoleColor RoleColors[] = {
     {QPalette::Window, 0xFFF3F1EF, 0xFF262120},
     {QPalette::WindowText, 0xFF222222, 0xFFECE6E2},
     {QPalette::Base, 0xFFFFFFFF, 0xFF1B1716},
@@ -34,15 +34,15 @@ constexpr RoleColour roleColours[] = {
     {QPalette::ToolTipText, 0xFF222222, 0xFFECE6E2},
 };
 
-constexpr double disabledShare = 0.55;
+constexpr double DisabledShare = 0.55;
 
 QPalette WarmPalette(QPalette palette, bool dark) {
-    for (const RoleColour& row : roleColours) {
+    for (const RoleColor& row : RoleColors) {
         palette.setColor(row.role, QColor(dark ? row.dark : row.light));
     }
     const QColor window = palette.color(QPalette::Active, QPalette::Window);
     for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
-        const QColor weak = Blend(palette.color(QPalette::Active, role), window, disabledShare);
+        const QColor weak = Blend(palette.color(QPalette::Active, role), window, DisabledShare);
         palette.setColor(QPalette::Disabled, role, weak);
     }
     return palette;
@@ -70,7 +70,7 @@ void ApplyLook() {
         return;
     }
     QApplication::setPalette(WarmPalette(QApplication::palette(), IsDark(QApplication::palette())));
-    QApplication::setStyle(new Style);  // which the application owns from here on
+    QApplication::setStyle(new Style);  // the application takes ownership
 }  // NOLINT(clang-analyzer-cplusplus.NewDeleteLeaks)
 
 }  // namespace desktop

@@ -4,15 +4,15 @@
 #include <QMenu>
 
 #include "toolkit/desktop.h"
-#include "toolkit/qt/native_window.h"
+#include "toolkit/qt/native_windows.h"
 #include "toolkit/qt/text.h"
 
 namespace desktop {
 
 void ShowPopupMenu(toolkit::Window& window, toolkit::PopupMenu& menu) {
-    QMenu native(NativeOf(&window));
+    QMenu native(FindNative(&window));
     for (const toolkit::MenuItem* item : menu.Items()) {
-        QAction* action = native.addAction(WithoutAccessKeys(Shown(item->Caption())));
+        QAction* action = native.addAction(EscapeAmpersands(DisplayText(item->Caption())));
         action->setEnabled(item->Enabled());
     }
     const qsizetype chosen = native.actions().indexOf(native.exec(QCursor::pos()));

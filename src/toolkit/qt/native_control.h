@@ -8,7 +8,7 @@
 
 namespace desktop {
 
-/// What the window asks of the widget of a control. The widget belongs to its parent.
+/// The widget of a control, as its window sees it. Its parent owns the widget.
 class NativeControl {
   public:
     NativeControl() = default;
@@ -17,14 +17,14 @@ class NativeControl {
     virtual ~NativeControl() = default;
 
     virtual QWidget& Widget() = 0;
-    /// The part of it over which the pointer moves.
+    /// The part of it that receives mouse events.
     virtual QWidget& Surface() { return Widget(); }
-    /// Draws an property that the kind has of its own: caption, text, state, selection, items.
-    /// Reports nothing.
+    /// Draws a property that only this kind of control has: caption, text, state, selection, items.
+    /// Raises no event.
     virtual void Apply(Property property, int row) = 0;
 };
 
-/// Makes the widget of a control, with the content that the control has now.
+/// Creates the widget of a control, with the control's current state.
 NativeControl* MakeControl(toolkit::Control& control, QWidget& parent);
 
 /// Draws any property.

@@ -6,6 +6,7 @@
 #include <QLabel>
 #include <QMouseEvent>
 #include <QPushButton>
+#include <QScopedValueRollback>
 #include <QScreen>
 #include <algorithm>
 #include <cmath>
@@ -16,10 +17,10 @@
 namespace desktop {
 namespace {
 
-/// Pixels of a dialog unit, across and down.
+/// Size of a dialog unit in pixels.
 struct UnitSize {
-    double across;
-    double down;
+    double width;
+    double height;
 };
 
 UnitSize UnitsOf(const QFont& font) {
@@ -29,31 +30,33 @@ UnitSize UnitsOf(const QFont& font) {
     return {average / 4, metrics.height() / 8};
 }
 
-/// Rounds the edges and not the sizes, so that what is flush in units is flush on the screen.
+/// Rounds the edges instead of the sizes, so that edges that are equal in units are equal in
+/// pixels.
 QRect InPixels(const toolkit::Place& place, const UnitSize& unit) {
-    const QPoint from(qRound(place.x * unit.across), qRound(place.y * unit.down));
-    const QPoint end(qRound((place.x + place.width) * unit.across),
-                     qRound((place.y + place.height) * unit.down));
+    const QPoint from(qRound(place.x * unit.width), qRound(place.y * unit.height));
+    const QPoint end(qRound((place.x + place.width) * unit.width),
+                     qRound((place.y + place.height) * unit.height));
     return {from, QSize(end.x() - from.x(), end.y() - from.y())};
 }
 
-bool StandsUnderneath(toolkit::Kind kind) {
+bool IsBackground(toolkit::Kind kind) {
     return kind == toolkit::Kind::Frame || kind == toolkit::Kind::Divider ||
            kind == toolkit::Kind::Picture;
 }
 
-Qt::WindowFlags FlagsOf(const toolkit::WindowSpec& table) {
+Qt::WindowFlags FlagsOf(const toolkit::WindowSpec& spec) {
     const Qt::WindowFlags common =
         Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint;
-    return table.dialog ? Qt::Dialog | common : Qt::Window | Qt::WindowMinimizeButtonHint | common;
+    return spec.dialog ? Qt::Dialog | common : Qt::Window | Qt::WindowMinimizeButtonHint | common;
 }
 
 }  // namespace
 
 NativeWindow::NativeWindow(toolkit::Window& window)
     : QWidget(nullptr, FlagsOf(window.Spec())), window_(window) {
-    setWindowTitle(Shown(window.Caption()));
+    setWindowTitle(DisplayText(window.Caption()));
     setMouseTracking(true);
+    // Later widgets are drawn above earlier ones.
     MakeControls(true);
     MakeControls(false);
     PlaceControls();
@@ -61,9 +64,9 @@ NativeWindow::NativeWindow(toolkit::Window& window)
     NameControls();
 }
 
-void NativeWindow::MakeControls(bool underneath) {
+void NativeWindow::MakeControls(bool background) {
     for (toolkit::Control* control : window_.Controls()) {
-        if (StandsUnderneath(control->GetKind()) == underneath) {
+        if (IsBackground(control->GetKind()) == background) {
             Add(*control);
         }
     }
@@ -73,7 +76,7 @@ void NativeWindow::Add(toolkit::Control& control) {
     NativeControl* native = MakeControl(control, *this);
     natives_.emplace(&control, native);
     QWidget& widget = native->Widget();
-    // What moves over a control is not for the window beneath it.
+    // The window itself must not see the pointer moving over a control.
     widget.setAttribute(Qt::WA_NoMousePropagation);
     if (control.Spec().tab < 0) {
         widget.setFocusPolicy(widget.focusPolicy() & Qt::ClickFocus ? Qt::ClickFocus : Qt::NoFocus);
@@ -101,7 +104,7 @@ void NativeWindow::PlaceControls() {
         QWidget& widget = Find(*control).Widget();
         QRect place = InPixels(control->Spec().place, unit);
         if (control->Has(toolkit::Follows) && before != nullptr) {
-            // Only here is a text measured: it costs a good part of the start.
+            // Texts of other controls are not measured: that takes much of the start.
             place.moveLeft(before->x() + before->sizeHint().width());
             place.setWidth(widget.sizeHint().width());
         }
@@ -155,7 +158,13 @@ void NativeWindow::Centre(const QWidget* owner) {
     }
 }
 
-void NativeWindow::Retire() {
+void NativeWindow::RunUntilHidden() {
+    QEventLoop loop;
+    const QScopedValueRollback guard(modalLoop_, &loop);
+    loop.exec(QEventLoop::DialogExec);
+}
+
+void NativeWindow::DeleteLater() {
     surfaces_.clear();
     setEnabled(false);
     hide();
@@ -184,7 +193,7 @@ void NativeWindow::enterEvent(QEnterEvent* event) {
     }
 }
 
-/// Presses the first button with that flag. Whether there is one.
+/// Presses the first button with a flag; returns whether there is one.
 bool NativeWindow::PressButton(toolkit::Flag flag) {
     const auto& controls = window_.Controls();
     const auto found = std::ranges::find_if(
@@ -220,7 +229,13 @@ void NativeWindow::closeEvent(QCloseEvent* event) {
     }
 }
 
-/// The desktop's font may change while the window is there.
+void NativeWindow::hideEvent(QHideEvent* event) {
+    if (modalLoop_ != nullptr && !event->spontaneous()) {
+        modalLoop_->quit();
+    }
+}
+
+/// The desktop's font may change while the window exists.
 void NativeWindow::changeEvent(QEvent* event) {
     QWidget::changeEvent(event);
     if (event->type() == QEvent::FontChange) {

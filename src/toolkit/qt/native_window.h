@@ -1,6 +1,7 @@
-// A window of the system as a Qt widget.
+// A window as a Qt widget.
 #pragma once
 
+#include <QEventLoop>
 #include <QHash>
 #include <QWidget>
 #include <unordered_map>
@@ -12,16 +13,18 @@ namespace desktop {
 
 class NativeWindow final : public QWidget {
   public:
-    /// Makes the widgets of all controls, hidden, with the state that the controls have now.
+    /// Creates the window, hidden, and the widgets of its controls.
     explicit NativeWindow(toolkit::Window& window);
 
     /// The widget of one of its controls.
     NativeControl& Find(const toolkit::Control& control) const { return *natives_.at(&control); }
-    /// Puts it in the middle of the screen of `owner`, or of the first screen.
+    /// Centers the window on the screen of `owner`, or on the primary screen if it is null.
     void Centre(const QWidget* owner);
-    /// Hides it and deletes it as soon as no handler of its widgets runs. What still arrives for it
-    /// until then is dropped: the toolkit window may be gone.
-    void Retire();
+    /// Handles events until the window is hidden.
+    void RunUntilHidden();
+    /// Hides the window, and deletes it when no handler of its widgets runs any more. Drops its
+    /// events until then, since the toolkit window may no longer exist.
+    void DeleteLater();
 
   protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -29,10 +32,11 @@ class NativeWindow final : public QWidget {
     void enterEvent(QEnterEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
     void changeEvent(QEvent* event) override;
 
   private:
-    void MakeControls(bool underneath);
+    void MakeControls(bool background);
     void Add(toolkit::Control& control);
     void PlaceControls();
     void SetTabOrder();
@@ -40,15 +44,9 @@ class NativeWindow final : public QWidget {
     bool PressButton(toolkit::Flag flag);
 
     toolkit::Window& window_;
+    QEventLoop* modalLoop_ = nullptr;  // while it is shown modally
     std::unordered_map<const toolkit::Control*, NativeControl*> natives_;
-    QHash<const QObject*, toolkit::Control*> surfaces_;
+    QHash<const QObject*, toolkit::Control*> surfaces_;  // by the widget that receives mouse events
 };
-
-/// The native window of a loaded window, made now if it was not yet. Null for one not loaded.
-NativeWindow* MakeNative(toolkit::Window& window);
-/// The native window if there is one already; null also for no window.
-NativeWindow* NativeOf(const toolkit::Window* window);
-/// The window that a dialog belongs to: the one in front. May be null.
-QWidget* FrontWindow();
 
 }  // namespace desktop

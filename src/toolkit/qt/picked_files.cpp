@@ -8,14 +8,14 @@
 namespace desktop {
 namespace {
 
-/// The path up to its last backslash, which stays where the folder is the root of a drive.
+/// The folder of a path, with a final backslash only for the root of a drive.
 std::string FolderOf(const std::string& path) {
     const std::size_t slash = path.rfind('\\');
     const bool isRoot = slash == path.find('\\');
     return path.substr(0, isRoot ? slash + 1 : slash);
 }
 
-/// Empty for files of different folders.
+/// The folder and the bare names, separated by NULs; empty if the folders differ.
 std::string FolderAndNames(const std::vector<std::string>& paths) {
     std::string result = FolderOf(paths.front());
     for (const std::string& path : paths) {
@@ -27,7 +27,7 @@ std::string FolderAndNames(const std::vector<std::string>& paths) {
     return result;
 }
 
-/// "*.wad;*.deh" as "*.wad *.deh *.WAD *.DEH".
+/// Converts "*.wad;*.deh" to "*.wad *.deh *.WAD *.DEH".
 std::string PatternsOf(const std::string& masks) {
     const std::string patterns = ReplaceAll(ReplaceAll(masks, "*.*", "*"), ";", " ");
     const std::string upper = UpperCase(patterns);
@@ -36,7 +36,7 @@ std::string PatternsOf(const std::string& masks) {
 
 }  // namespace
 
-bool PutPickedFiles(OpenFileName& record, const std::vector<std::string>& paths) {
+bool StorePickedFiles(OpenFileName& record, const std::vector<std::string>& paths) {
     const std::string text = paths.empty()       ? std::string()
                              : paths.size() == 1 ? paths.front()
                                                  : FolderAndNames(paths);

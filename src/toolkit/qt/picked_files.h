@@ -1,4 +1,4 @@
-// Files that the user picked, in the form that the records of Windows carry.
+// Chosen files in the format of the Windows file dialogs.
 #pragma once
 
 #include <QString>
@@ -10,12 +10,13 @@
 
 namespace desktop {
 
-/// Puts full Windows paths into the record's buffer: a single one whole, several as their folder
-/// and bare names. False, with an empty buffer, when they do not fit or have different folders.
-bool PutPickedFiles(OpenFileName& record, const std::vector<std::string>& paths);
+/// Stores full Windows paths in the record's buffer: a single one as it is, several as their folder
+/// and bare names. Returns false, with an empty buffer, if there are none, if they do not fit, or
+/// if their folders differ.
+bool StorePickedFiles(OpenFileName& record, const std::vector<std::string>& paths);
 
-/// The filter of a record as Qt's name filters, whose last brackets hold the patterns and are not
-/// shown. The case of a file's ending does not matter.
+/// Converts the filter of a record to Qt's name filters. Qt takes the patterns from the last
+/// parentheses. They match lower and upper case.
 QStringList NameFilters(const std::string& filter);
 
 }  // namespace desktop

@@ -16,7 +16,7 @@ QString FileOf(const QString& name, int ratio) {
     return QStringLiteral(":/art/%1%2.png").arg(name, suffix);
 }
 
-/// Qt would load each of its format plugins just to ask whether the file is for it.
+/// Names the format, because otherwise Qt loads every format plugin to detect it.
 QPixmap LoadPng(const QString& file) {
     QImageReader reader(file, "png");
     reader.setAutoDetectImageFormat(false);

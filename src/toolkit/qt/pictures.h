@@ -1,4 +1,4 @@
-// Our own pictures, by the names that the window tables use.
+// The pictures of the program, by the names that controls are declared with.
 #pragma once
 
 #include <QPixmap>
@@ -9,8 +9,8 @@ class QPalette;
 
 namespace desktop {
 
-/// The picture in the sharpness that a screen of `pixelRatio` pixels to the unit needs, in its
-/// dark form on a dark palette where it has one. Null when there is no such picture.
+/// Loads a picture in a resolution for `pixelRatio` pixels per unit, in its dark variant for a dark
+/// palette if it has one. Returns a null pixmap if there is no such picture.
 QPixmap LoadPicture(std::string_view name, double pixelRatio, const QPalette& palette);
 
 /// The icon of the program's windows.

@@ -10,13 +10,13 @@
 namespace desktop {
 namespace {
 
-constexpr double roundness = 4;
-/// Room at the left of the text in fields, beside what the plain style leaves.
-constexpr int textInset = 4;
+constexpr double CornerRadius = 4;
+/// Additional space to the left of the text in a field, in pixels.
+constexpr int TextInset = 4;
 
-/// A rounded surface whose outline, a pixel wide, lies inside of `rect`.
+/// Draws a rounded surface with its outline inside `rect`.
 void DrawSurface(QPainter& painter, const QRect& rect, const QColor& fill, const QPen& outline,
-                 double radius = roundness) {
+                 double radius = CornerRadius) {
     const double inset = outline.widthF() / 2;
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
@@ -36,8 +36,8 @@ QColor Outline(const QStyleOption& option) {
                                                       option.palette.color(QPalette::Window), 0.5);
 }
 
-/// What a person can press: raised a little by the pointer, lowered by the press.
-QColor PressableFill(const QStyleOption& option) {
+/// Lighter under the pointer, darker while pressed.
+QColor ButtonFill(const QStyleOption& option) {
     const QColor button = option.palette.color(QPalette::Button);
     if (!Has(option, QStyle::State_Enabled)) {
         return Blend(button, option.palette.color(QPalette::Window), 0.6);
@@ -51,12 +51,12 @@ QColor PressableFill(const QStyleOption& option) {
 }
 
 QPen FocusPen(const QStyleOption& option) {
-    const QColor colour = IsDark(option.palette) ? accent.lighter(160) : accent;
-    return {colour, 1.6};
+    const QColor color = IsDark(option.palette) ? Accent.lighter(160) : Accent;
+    return {color, 1.6};
 }
 
-void DrawPressable(QPainter& painter, const QStyleOption& option, bool focused) {
-    DrawSurface(painter, option.rect, PressableFill(option),
+void DrawButtonSurface(QPainter& painter, const QStyleOption& option, bool focused) {
+    DrawSurface(painter, option.rect, ButtonFill(option),
                 focused ? FocusPen(option) : QPen(Outline(option), 1));
 }
 
@@ -81,7 +81,7 @@ void DrawCheckMark(QPainter& painter, const QRect& box) {
 void DrawCheckBox(QPainter& painter, const QStyleOption& option) {
     const bool checked = Has(option, QStyle::State_On);
     const QColor base = option.palette.color(QPalette::Base);
-    QColor fill = checked ? accent : base;
+    QColor fill = checked ? Accent : base;
     if (!Has(option, QStyle::State_Enabled)) {
         fill = Blend(fill, option.palette.color(QPalette::Window), 0.6);
     } else if (Has(option, QStyle::State_Sunken)) {
@@ -89,7 +89,7 @@ void DrawCheckBox(QPainter& painter, const QStyleOption& option) {
     } else if (Has(option, QStyle::State_MouseOver)) {
         fill = Blend(fill, option.palette.color(QPalette::Highlight), checked ? 0.15 : 0.5);
     }
-    const QColor outline = checked ? accent.darker(130) : option.palette.color(QPalette::Dark);
+    const QColor outline = checked ? Accent.darker(130) : option.palette.color(QPalette::Dark);
     DrawSurface(painter, option.rect, fill, QPen(outline, 1), 3);
     if (checked) {
         DrawCheckMark(painter, option.rect);
@@ -109,7 +109,7 @@ void DrawArrow(QPainter& painter, const QRect& field, const QStyleOption& option
     painter.restore();
 }
 
-/// The outline starts in the middle of the caption and is broken by it.
+/// Draws a group box whose outline is interrupted by its caption.
 void DrawGroup(QPainter& painter, const QStyleOptionGroupBox& group) {
     const int textHeight = group.fontMetrics.height();
     const int textWidth = group.fontMetrics.horizontalAdvance(group.text);
@@ -120,7 +120,7 @@ void DrawGroup(QPainter& painter, const QStyleOptionGroupBox& group) {
         painter.setClipRegion(QRegion(group.rect).subtracted(text.adjusted(-gap, 0, gap, 0)));
     }
     DrawSurface(painter, group.rect.adjusted(0, textHeight / 2, 0, 0), Qt::transparent,
-                QPen(group.palette.color(QPalette::Mid), 1), roundness + 1);
+                QPen(group.palette.color(QPalette::Mid), 1), CornerRadius + 1);
     painter.restore();
     painter.setPen(group.palette.color(QPalette::WindowText));
     painter.drawText(text, Qt::AlignLeft | Qt::AlignVCenter, group.text);
@@ -138,13 +138,13 @@ void Style::drawPrimitive(PrimitiveElement element, const QStyleOption* option, 
                                    QStyleOptionButton::DefaultButton);
         const bool keyFocus =
             Has(*option, State_HasFocus) && Has(*option, State_KeyboardFocusChange);
-        DrawPressable(*painter, *option, isDefault || keyFocus);
+        DrawButtonSurface(*painter, *option, isDefault || keyFocus);
     } else if (element == PE_IndicatorCheckBox) {
         DrawCheckBox(*painter, *option);
     } else if (element == PE_PanelLineEdit && !inCombo) {
-        DrawField(*painter, *option, option->palette.color(QPalette::Base), roundness);
+        DrawField(*painter, *option, option->palette.color(QPalette::Base), CornerRadius);
     } else if (element == PE_Frame && !inCombo) {
-        // The content behind has square corners.
+        // Small corners, because the rows inside have square ones.
         DrawField(*painter, *option, Qt::transparent, 1.5);
     } else if (element != PE_PanelLineEdit) {
         QProxyStyle::drawPrimitive(element, option, painter, widget);
@@ -164,7 +164,7 @@ void Style::drawComplexControl(ComplexControl control, const QStyleOptionComplex
             field.state &= ~State_Sunken;
         }
         field.state &= ~State_On;
-        DrawPressable(*painter, field, focused);
+        DrawButtonSurface(*painter, field, focused);
         DrawArrow(*painter, subControlRect(control, option, SC_ComboBoxArrow, widget), *option);
     } else if (control == CC_GroupBox && group != nullptr) {
         DrawGroup(*painter, *group);
@@ -176,11 +176,11 @@ void Style::drawComplexControl(ComplexControl control, const QStyleOptionComplex
 QRect Style::subControlRect(ComplexControl control, const QStyleOptionComplex* option,
                             SubControl part, const QWidget* widget) const {
     if (control == CC_GroupBox) {
-        return option->rect;  // nothing is laid out in it, so its bold font is not measured
+        return option->rect;  // nothing is laid out inside; this saves measuring its bold font
     }
     const QRect rect = QProxyStyle::subControlRect(control, option, part, widget);
     const bool isText = control == CC_ComboBox && part == SC_ComboBoxEditField;
-    return isText ? rect.adjusted(textInset, 0, 0, 0) : rect;
+    return isText ? rect.adjusted(TextInset, 0, 0, 0) : rect;
 }
 
 int Style::pixelMetric(PixelMetric metric, const QStyleOption* option,
@@ -189,7 +189,7 @@ int Style::pixelMetric(PixelMetric metric, const QStyleOption* option,
         case PM_ButtonShiftHorizontal:
         case PM_ButtonShiftVertical:
             return 0;
-        case PM_FocusFrameHMargin:  // beside the text of rows
+        case PM_FocusFrameHMargin:  // to the left and right of the text of rows
             return 6;
         case PM_CheckBoxLabelSpacing:
         case PM_HeaderMargin:
@@ -202,7 +202,7 @@ int Style::pixelMetric(PixelMetric metric, const QStyleOption* option,
 int Style::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                      QStyleHintReturn* returned) const {
     switch (hint) {
-        case SH_ComboBox_Popup:  // the open list stands below its field
+        case SH_ComboBox_Popup:  // open the list below its field
         case SH_DialogButtonBox_ButtonsHaveIcons:
             return 0;
         default:

@@ -1,4 +1,4 @@
-// A light touch over the plain desktop style: flat surfaces with thin rounded outlines.
+// The program's style: Qt's Fusion with flat surfaces and thin rounded outlines.
 #pragma once
 
 #include <QProxyStyle>

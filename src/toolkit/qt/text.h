@@ -1,4 +1,5 @@
-// Text between the system (bytes, Windows paths) and the screen (Unicode, native paths).
+// Converts between texts of the program (bytes, Windows paths) and texts on the screen (Unicode,
+// native paths).
 #pragma once
 
 #include <QString>
@@ -7,16 +8,16 @@
 
 namespace desktop {
 
-/// UTF-8 decoded; text that is not valid UTF-8 is read as Windows-1252 instead.
+/// Decodes UTF-8, or Windows-1252 if the text is not valid UTF-8.
 QString Decode(std::string_view text);
 
-/// The text as a person sees it: paths native, then decoded.
-QString Shown(std::string_view text);
+/// Decodes a text to be shown, with its paths in native notation.
+QString DisplayText(std::string_view text);
 
-/// What a person typed, as UTF-8.
+/// Encodes a text as UTF-8.
 std::string Encode(const QString& text);
 
-/// The text for a place where "&" would mark an access key, so that it shows as it is.
-QString WithoutAccessKeys(QString text);
+/// Doubles each "&", for widgets that take a single one for the mark of an access key.
+QString EscapeAmpersands(QString text);
 
 }  // namespace desktop

@@ -7,7 +7,7 @@
 namespace desktop {
 namespace {
 
-/// The control keeps its exact text until the user changes what is shown of it.
+/// The shown text may differ from the exact one, which the control keeps until the user types.
 class TextBoxWidget final : public QLineEdit, public NativeControl {
   public:
     TextBoxWidget(toolkit::TextBox& box, QWidget& parent) : QLineEdit(&parent), box_(box) {
@@ -23,9 +23,10 @@ class TextBoxWidget final : public QLineEdit, public NativeControl {
         if (property != Property::Text) {
             return;
         }
-        const QString shown = box_.Has(toolkit::IsPath) ? Shown(box_.Text()) : Decode(box_.Text());
+        const QString shown =
+            box_.Has(toolkit::IsPath) ? DisplayText(box_.Text()) : Decode(box_.Text());
         if (shown != text()) {
-            const QSignalBlocker silence(this);
+            const QSignalBlocker guard(this);
             setText(shown);
         }
     }
