@@ -7,9 +7,9 @@
 
 namespace {
 
-/// Makes the file if it is not there. `reason` is why it could not be read, which stays the answer
-/// where there is a file with content after all.
-platform::Outcome MakeEmptyFile(const std::string& fileName, const platform::Outcome& reason) {
+/// Creates the file if it is missing. A file with content was not missing: then the outcome is the
+/// reason why it could not be read.
+platform::Outcome CreateIfMissing(const std::string& fileName, const platform::Outcome& reason) {
     platform::Outcome outcome;
     const auto file = platform::File::Open(fileName, platform::File::Access::Create, &outcome);
     return file.IsOpen() && file.Size() > 0 ? reason : outcome;
@@ -21,7 +21,7 @@ platform::Outcome clsConfiguration::LoadConfiguration(const std::string& fileNam
     platform::Outcome outcome;
     const std::string text = platform::ReadWholeFile(fileName, outcome);
     if (!outcome) {
-        outcome = MakeEmptyFile(fileName, outcome);
+        outcome = CreateIfMissing(fileName, outcome);
     }
     if (outcome) {
         InputConfiguration(text);
@@ -52,11 +52,11 @@ std::string clsConfiguration::OutputConfiguration(std::string_view newLine, bool
     return OutputBlock(*configurationRoot_, 0, newLine, whitespace);
 }
 
-ConfigValue clsConfiguration::ReadSetting(std::string_view setting, ConfigValue standard,
+ConfigValue clsConfiguration::ReadSetting(std::string_view setting, ConfigValue fallback,
                                           bool reference) const {
     const ConfigValue* const value = configurationRoot_->Find(setting);
     if (!value) {
-        return standard;
+        return fallback;
     }
     const ConfigMapRef map = value->AsMap();
     return map && !reference ? ConfigValue(CopyBlock(*map)) : *value;

@@ -8,9 +8,9 @@
 
 namespace {
 
-constexpr auto largest = std::numeric_limits<double>::max();
-constexpr int singleDigits = 7;
-constexpr int doubleDigits = 15;
+constexpr double Largest = std::numeric_limits<double>::max();
+constexpr int SingleDigits = 7;
+constexpr int DoubleDigits = 15;
 
 bool IsDigit(char character) {
     return character >= '0' && character <= '9';
@@ -23,10 +23,10 @@ std::size_t EndOfDigits(std::string_view text, std::size_t at) {
     return at;
 }
 
-/// `at` is where an exponent may begin; gives where it ends, `at` itself when there is none.
+/// Returns the end of the exponent that begins at `at`, or `at` itself if none does.
 std::size_t EndOfExponent(std::string_view text, std::size_t at) {
-    constexpr std::string_view letters = "eEdD";
-    if (at >= text.size() || letters.find(text[at]) == std::string_view::npos) {
+    constexpr std::string_view Letters = "eEdD";
+    if (at >= text.size() || Letters.find(text[at]) == std::string_view::npos) {
         return at;
     }
     const std::string_view sign = text.substr(at + 1, 1);
@@ -51,26 +51,27 @@ double BasedValue(std::string_view digits, int base) {
         }
         value = value * base + DigitValue(digit);
     }
-    return std::min(value, largest);
+    return std::min(value, Largest);
 }
 
-/// Whether a number that its width cannot hold is too large for it, and not too small. `exponent`
-/// is empty or begins with its letter.
+/// Whether a number out of a double's range is too large and not too small, which std::from_chars
+/// does not say. `exponent` is empty or begins with its letter.
 bool IsTooLarge(std::string_view mantissa, std::string_view exponent) {
-    constexpr std::int64_t farAway = std::numeric_limits<std::int64_t>::max() / 2;
+    constexpr std::int64_t FarAway = std::numeric_limits<std::int64_t>::max() / 2;
     exponent.remove_prefix(std::min(exponent.find_first_of("+-0123456789"), exponent.size()));
     exponent.remove_prefix(exponent.starts_with('+') ? 1 : 0);
     std::int64_t shift = 0;
     if (std::from_chars(exponent.data(), exponent.data() + exponent.size(), shift).ec ==
         std::errc::result_out_of_range) {
-        shift = exponent.starts_with('-') ? -farAway : farAway;
+        shift = exponent.starts_with('-') ? -FarAway : FarAway;
     }
-    const auto point = static_cast<std::int64_t>(std::min(mantissa.find('.'), mantissa.size()));
+    const auto dot = static_cast<std::int64_t>(std::min(mantissa.find('.'), mantissa.size()));
     const auto first = static_cast<std::int64_t>(mantissa.find_first_not_of("0."));
-    return point - first + shift > 0;
+    return dot - first + shift > 0;
 }
 
-/// The text holds no blanks. An exponent's letter in it becomes an e.
+/// The text contains no spaces. The letter of its exponent is replaced by the e that
+/// std::from_chars expects.
 double DecimalValue(std::string& text) {
     const bool negative = text.starts_with('-');
     const std::size_t start = negative || text.starts_with('+') ? 1 : 0;
@@ -94,33 +95,33 @@ double DecimalValue(std::string& text) {
         const std::string_view all = text;
         const bool tooLarge =
             IsTooLarge(all.substr(start, mantissa - start), all.substr(mantissa, end - mantissa));
-        value = tooLarge ? largest : 0;
+        value = tooLarge ? Largest : 0;
     }
     return negative ? -value : value;
 }
 
 template <class Number>
 std::string RealText(Number number, int digits) {
-    constexpr auto limit = std::numeric_limits<Number>::max();
-    constexpr Number surelyPlain = 1e6F;
+    constexpr Number Limit = std::numeric_limits<Number>::max();
+    constexpr Number AlwaysPlain = 1e6F;
     if (std::isnan(number)) {
         return "0";
     }
-    if (std::abs(number) < surelyPlain && number == std::trunc(number)) {
+    if (std::abs(number) < AlwaysPlain && number == std::trunc(number)) {
         return std::to_string(static_cast<std::int32_t>(number));
     }
-    std::array<char, 32> room{};
+    std::array<char, 32> buffer{};
     const auto end =
-        std::to_chars(room.data(), room.data() + room.size(), std::clamp(number, -limit, limit),
-                      std::chars_format::general, digits);
-    std::replace(room.data(), end.ptr, 'e', 'E');
-    return {room.data(), end.ptr};
+        std::to_chars(buffer.data(), buffer.data() + buffer.size(),
+                      std::clamp(number, -Limit, Limit), std::chars_format::general, digits);
+    std::replace(buffer.data(), end.ptr, 'e', 'E');
+    return {buffer.data(), end.ptr};
 }
 
 }  // namespace
 
 double NumberValue(std::string_view text) {
-    // Up to nine plain digits are most of the numbers there are.
+    // The fast path for most numbers: up to nine digits fit in 32 bits.
     if (!text.empty() && text.size() <= 9 && EndOfDigits(text, 0) == text.size()) {
         std::int32_t whole = 0;
         std::from_chars(text.data(), text.data() + text.size(), whole);
@@ -142,17 +143,17 @@ double NumberValue(std::string_view text) {
 }
 
 float SingleNumber(double number) {
-    constexpr double limit = std::numeric_limits<float>::max();
-    return static_cast<float>(std::clamp(number, -limit, limit));
+    constexpr double Limit = std::numeric_limits<float>::max();
+    return static_cast<float>(std::clamp(number, -Limit, Limit));
 }
 
 std::int32_t WholeNumber(double number) {
-    constexpr double lowest = std::numeric_limits<std::int32_t>::min();
-    constexpr double highest = std::numeric_limits<std::int32_t>::max();
+    constexpr double Lowest = std::numeric_limits<std::int32_t>::min();
+    constexpr double Highest = std::numeric_limits<std::int32_t>::max();
     if (std::isnan(number)) {
         return 0;
     }
-    return static_cast<std::int32_t>(std::clamp(std::nearbyint(number), lowest, highest));
+    return static_cast<std::int32_t>(std::clamp(std::nearbyint(number), Lowest, Highest));
 }
 
 std::string NumberText(bool flag) {
@@ -168,9 +169,9 @@ std::string NumberText(std::int32_t number) {
 }
 
 std::string NumberText(float number) {
-    return RealText(number, singleDigits);
+    return RealText(number, SingleDigits);
 }
 
 std::string NumberText(double number) {
-    return RealText(number, doubleDigits);
+    return RealText(number, DoubleDigits);
 }

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <span>
 #include <utility>
 #include <vector>
 
@@ -11,31 +12,33 @@
 
 namespace {
 
-enum Class : unsigned char { Blank = 1, StopsKey = 2, StopsString = 4, BeginsValue = 8 };
+/// What the reader asks of a character. One look-up in a table answers, because this is asked for
+/// every character of a document.
+enum CharacterClass : unsigned char { Space = 1, EndsKey = 2, EndsPlainText = 4, StartsValue = 8 };
 
-constexpr auto classes = [] {
+constexpr auto ClassesOf = [] {
     std::array<unsigned char, 256> table{};
-    const auto enter = [&](std::string_view characters, Class in) {
+    const auto enter = [&](std::string_view characters, CharacterClass in) {
         for (const char character : characters) {
             table[static_cast<unsigned char>(character)] |= in;
         }
     };
-    enter(" \n\r\t", Blank);
-    enter(" \n\r\t{}=;/", StopsKey);
-    enter("\r\t\"\\;", StopsString);
-    enter("\"0123456789&-.eE", BeginsValue);
+    enter(" \n\r\t", Space);
+    enter(" \n\r\t{}=;/", EndsKey);
+    enter("\r\t\"\\;", EndsPlainText);
+    enter("\"0123456789&-.eE", StartsValue);
     return table;
 }();
 
-bool Is(char character, Class in) {
-    return (classes[static_cast<unsigned char>(character)] & in) != 0;
+bool IsIn(CharacterClass wanted, char character) {
+    return (ClassesOf[static_cast<unsigned char>(character)] & wanted) != 0;
 }
 
 bool IsDigit(char character) {
     return character >= '0' && character <= '9';
 }
 
-bool CountsAsAbsent(char character) {
+bool IsIgnored(char character) {
     return character == '\r' || character == '\t';
 }
 
@@ -44,83 +47,67 @@ char CharacterOf(std::string_view code) {
     return static_cast<char>(static_cast<unsigned char>(std::llrint(NumberValue(code)) & 0xFF));
 }
 
-/// The entries of all levels that are open stand in one vector, an inner level's behind those of
-/// the levels around it, and leave it for a map when their level closes.
+/// Reads without recursion. The entries of all open structures are in one vector, those of an inner
+/// structure after those of the outer ones, and move to a map when their structure ends: so a map
+/// is made once, in its final size.
 class Reader {
   public:
     Reader(std::string_view text, std::size_t position)
-        : at_(text.data() + std::min(position, text.size())), end_(text.data() + text.size()) {
-        ReserveEntries();
-    }
+        : at_(text.data() + std::min(position, text.size())), end_(text.data() + text.size()) {}
 
     ConfigMapRef Read();
     const char* At() const { return at_; }
 
   private:
-    struct Level {
+    struct Structure {
         std::string key;
         std::size_t firstEntry;
     };
 
-    void ReserveEntries();
-    bool PassBlanks();
+    bool SkipSpaces();
     void ReadEntries();
     void ReadValue();
     void ReadNumber();
     void ReadString();
     void ReadEscape();
-    void PassComment();
-    void PassBlockComment();
-    void Open();
-    void Close();
+    void SkipComment();
+    void SkipBlockComment();
+    void OpenStructure();
+    void CloseStructure();
 
-    std::vector<ConfigEntry> TakeEntries(std::size_t place);
-    void TakeRun(Class stop, std::string& target);
-    const char* NextPresent(const char* from) const;
+    void AppendUntil(CharacterClass stop, std::string& target);
+    const char* SkipIgnored(const char* from) const;
     void Store(ConfigValue value);
+    ConfigMapRef TakeEntries(std::size_t first);
 
     const char* at_;
     const char* end_;
     std::string key_;
     std::string value_;
-    std::vector<Level> levels_;
+    std::vector<Structure> open_;
     std::vector<ConfigEntry> entries_;
 };
 
-/// So that the entries of a large text need not move as they become more: without structures, how
-/// many there will be shows at its beginning.
-void Reader::ReserveEntries() {
-    constexpr std::size_t sampleSize = 1 << 16;
-    constexpr std::size_t usualEntry = 16;  // characters; strings may hold many a ";"
-    const std::string_view text(at_, static_cast<std::size_t>(end_ - at_));
-    const std::string_view sample = text.substr(0, sampleSize);
-    if (text.size() > sampleSize && sample.find('{') == std::string_view::npos) {
-        const auto ends = static_cast<std::size_t>(std::ranges::count(sample, ';'));
-        entries_.reserve((text.size() / sampleSize + 1) * std::min(ends, sampleSize / usualEntry));
-    }
-}
-
 ConfigMapRef Reader::Read() {
     ReadEntries();
-    while (!levels_.empty()) {
-        Close();
+    while (!open_.empty()) {
+        CloseStructure();
     }
-    const bool fits = entries_.size() >= entries_.capacity() / 2;
-    return std::make_shared<ConfigMap>(fits ? std::move(entries_) : TakeEntries(0));
+    return TakeEntries(0);
 }
 
-/// Blanks and line ends may stand anywhere, inside a key too. Gives whether text is left.
-bool Reader::PassBlanks() {
-    while (at_ != end_ && Is(*at_, Blank)) {
+/// Spaces and line ends may be anywhere, also inside a key. Returns whether text is left.
+bool Reader::SkipSpaces() {
+    while (at_ != end_ && IsIn(Space, *at_)) {
         ++at_;
     }
     return at_ != end_;
 }
 
 void Reader::ReadEntries() {
-    while (PassBlanks()) {
-        if (!Is(*at_, StopsKey)) {
-            TakeRun(StopsKey, key_);
+    while (SkipSpaces()) {
+        if (!IsIn(EndsKey, *at_)) {
+            AppendUntil(EndsKey, key_);
             continue;
         }
         switch (*at_++) {
@@ -131,16 +118,16 @@ void Reader::ReadEntries() {
                 Store(0.0);
                 break;
             case '{':
-                Open();
+                OpenStructure();
                 break;
             case '}':
-                if (levels_.empty()) {
+                if (open_.empty()) {
                     return;
                 }
-                Close();
+                CloseStructure();
                 break;
             case '/':
-                PassComment();
+                SkipComment();
                 break;
             default:
                 break;
@@ -148,9 +135,9 @@ void Reader::ReadEntries() {
     }
 }
 
-/// Behind a key's "=", everything up to the beginning of a string or a number is passed over.
+/// After "=", everything up to the start of a string or a number is skipped.
 void Reader::ReadValue() {
-    at_ = std::find_if(at_, end_, [](char character) { return Is(character, BeginsValue); });
+    at_ = std::find_if(at_, end_, [](char character) { return IsIn(StartsValue, character); });
     if (at_ == end_) {
         return;
     }
@@ -162,33 +149,25 @@ void Reader::ReadValue() {
     }
 }
 
+/// A number's text ends only at ";"; NumberValue decides how much of it counts.
 void Reader::ReadNumber() {
     const char* const start = at_;
-    bool single = false;
-    bool hasReturns = false;
-    for (; at_ != end_ && *at_ != ';'; ++at_) {
-        single = single || *at_ == '.';
-        hasReturns = hasReturns || *at_ == '\r';
-    }
+    at_ = std::find(at_, end_, ';');
     if (at_ == end_) {
         return;
     }
-    std::string_view digits(start, at_++);
-    std::string present;
-    if (hasReturns) {
-        present = digits;
-        std::erase(present, '\r');
-        digits = present;
-    }
+    std::string digits(start, at_++);
+    std::erase(digits, '\r');
+    const bool single = digits.find('.') != std::string::npos;
     const double number = NumberValue(digits);
     Store(single ? ConfigValue(SingleNumber(number)) : ConfigValue(number));
 }
 
-/// A closing quote stores the text and takes the key; the string lasts on, up to the ";" that then
-/// meets no key.
+/// The closing quote stores the value and clears the key; text after it is ignored up to the next
+/// ";". So a ";" ends the string only while the key is empty.
 void Reader::ReadString() {
     while (at_ != end_) {
-        TakeRun(StopsString, value_);
+        AppendUntil(EndsPlainText, value_);
         if (at_ == end_) {
             return;
         }
@@ -207,52 +186,53 @@ void Reader::ReadString() {
                 }
                 value_ += ';';
                 break;
-            default:  // CR and TAB
+            default:  // ignored
                 break;
         }
     }
 }
 
+/// An escape is a letter, any other character for itself, or exactly three characters from a digit
+/// on, which are read as a number.
 void Reader::ReadEscape() {
-    at_ = NextPresent(at_);
+    at_ = SkipIgnored(at_);
     if (at_ == end_) {
         return;
     }
     if (!IsDigit(*at_)) {
-        constexpr std::string_view letters = "nrt";
-        constexpr std::string_view controls = "\n\r\t";
-        const std::size_t letter = letters.find(*at_);
-        value_ += letter == std::string_view::npos ? *at_ : controls[letter];
+        constexpr std::string_view Letters = "nrt";
+        constexpr std::string_view Controls = "\n\r\t";
+        const std::size_t letter = Letters.find(*at_);
+        value_ += letter == std::string_view::npos ? *at_ : Controls[letter];
         ++at_;
         return;
     }
     std::string code;
     while (at_ != end_ && code.size() < 3) {
         code += *at_;
-        at_ = NextPresent(at_ + 1);
+        at_ = SkipIgnored(at_ + 1);
     }
     value_ += CharacterOf(code);
 }
 
-/// Called behind a "/" that stands where a key could begin. A lone one is passed over.
-void Reader::PassComment() {
-    const char* const second = NextPresent(at_);
+/// Called after a "/" where a key could begin. A lone one is skipped.
+void Reader::SkipComment() {
+    const char* const second = SkipIgnored(at_);
     if (second == end_) {
         return;
     }
     if (*second == '/') {
-        const char* const line = std::find(second, end_, '\n');
-        at_ = line == end_ ? end_ : line + 1;
+        at_ = std::find(second, end_, '\n');
     } else if (*second == '*') {
         at_ = second;
-        PassBlockComment();
+        SkipBlockComment();
     }
 }
 
-/// Called on the "*" that opens the comment, which may be the one that closes it as well.
-void Reader::PassBlockComment() {
+/// Called at the "*" that opens the comment. The same "*" may close it: "/*/" is a whole comment.
+void Reader::SkipBlockComment() {
     while ((at_ = std::find(at_, end_, '*')) != end_) {
-        at_ = NextPresent(at_ + 1);
+        at_ = SkipIgnored(at_ + 1);
         if (at_ != end_ && *at_ == '/') {
             ++at_;
             return;
@@ -260,45 +240,41 @@ void Reader::PassBlockComment() {
     }
 }
 
-void Reader::Open() {
-    levels_.push_back({std::move(key_), entries_.size()});
+void Reader::OpenStructure() {
+    open_.push_back({std::move(key_), entries_.size()});
     key_.clear();
 }
 
-void Reader::Close() {
-    std::vector<ConfigEntry> entries = TakeEntries(levels_.back().firstEntry);
-    key_ = std::move(levels_.back().key);
-    levels_.pop_back();
-    Store(std::make_shared<ConfigMap>(std::move(entries)));
+void Reader::CloseStructure() {
+    ConfigMapRef map = TakeEntries(open_.back().firstEntry);
+    key_ = std::move(open_.back().key);
+    open_.pop_back();
+    Store(std::move(map));
 }
 
-/// The entries from that place on, in no more memory than they need.
-std::vector<ConfigEntry> Reader::TakeEntries(std::size_t place) {
-    const auto first = entries_.begin() + static_cast<std::ptrdiff_t>(place);
-    std::vector<ConfigEntry> taken(std::make_move_iterator(first),
-                                   std::make_move_iterator(entries_.end()));
-    entries_.erase(first, entries_.end());
-    return taken;
-}
-
-/// Appends the plain characters from here up to the next one that means something.
-void Reader::TakeRun(Class stop, std::string& target) {
-    const char* at = at_;
-    while (at != end_ && !Is(*at, stop)) {
-        ++at;
+/// Appends the characters up to the next one of that class, and moves to it.
+void Reader::AppendUntil(CharacterClass stop, std::string& target) {
+    const char* const start = at_;
+    while (at_ != end_ && !IsIn(stop, *at_)) {
+        ++at_;
     }
-    target.append(at_, static_cast<std::size_t>(at - at_));
-    at_ = at;
+    target.append(start, static_cast<std::size_t>(at_ - start));
 }
 
-const char* Reader::NextPresent(const char* from) const {
-    return std::find_if_not(from, end_, CountsAsAbsent);
+const char* Reader::SkipIgnored(const char* from) const {
+    return std::find_if_not(from, end_, IsIgnored);
 }
 
 void Reader::Store(ConfigValue value) {
     ConfigEntry& entry = entries_.emplace_back();
     entry.key.swap(key_);
     entry.value = std::move(value);
+}
+
+ConfigMapRef Reader::TakeEntries(std::size_t first) {
+    auto map = std::make_shared<ConfigMap>(std::span(entries_).subspan(first));
+    entries_.resize(first);
+    return map;
 }
 
 }  // namespace

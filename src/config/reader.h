@@ -9,9 +9,9 @@
 //         wad = "WAD files";
 //     }
 //
-// Every text is accepted, and what makes no sense is passed over. CR and TAB count as not there,
-// inside strings too; a string holds them as \r and \t. A number with a point is one of 32 bits,
-// any other is one of 64 bits.
+// Every text is accepted; what makes no sense is skipped. CR and TAB are ignored everywhere, also
+// in strings, which contain them as \r and \t. A number with a dot becomes a float, any other a
+// double.
 #pragma once
 
 #include <cstddef>
@@ -19,8 +19,7 @@
 
 #include "config/config_value.h"
 
-/// What the text says from `position`, the number of characters that are done with, up to a `}`
-/// that closes nothing or the end of the text; `position` then stands behind that. Of a repeated
-/// key the last value counts, at the first one's place. Depth of nesting is bounded by memory
-/// alone.
+/// Reads from `position`, the number of characters already read, to a `}` that closes nothing or to
+/// the end of the text, and moves `position` past what it read. Of a repeated key the last value
+/// counts, at the first one's place. Only memory limits the depth of nesting.
 ConfigMapRef ParseBlock(std::size_t& position, std::string_view text);

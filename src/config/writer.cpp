@@ -6,8 +6,8 @@
 
 namespace {
 
-/// For each character the letter that stands for it behind a backslash, 0 where it needs none.
-constexpr auto escapes = [] {
+/// For each character the letter that represents it after a backslash, 0 if it needs no escape.
+constexpr auto EscapeLetters = [] {
     std::array<char, 256> table{};
     table['\\'] = '\\';
     table['\n'] = 'n';
@@ -20,7 +20,7 @@ constexpr auto escapes = [] {
 void AppendEscaped(std::string& output, std::string_view text) {
     std::size_t start = 0;
     for (std::size_t at = 0; at < text.size(); ++at) {
-        const char letter = escapes[static_cast<unsigned char>(text[at])];
+        const char letter = EscapeLetters[static_cast<unsigned char>(text[at])];
         if (letter != '\0') {
             output.append(text, start, at - start).append({'\\', letter});
             start = at + 1;
@@ -29,6 +29,7 @@ void AppendEscaped(std::string& output, std::string_view text) {
     output.append(text, start);
 }
 
+/// Writes without recursion, so that the depth of a document is limited by memory only.
 class Writer {
   public:
     Writer(std::size_t level, std::string_view newLine, bool whitespace)
@@ -49,7 +50,7 @@ class Writer {
     std::string_view newLine_;
     bool whitespace_;
     std::string output_;
-    /// What is still to be written of each level that is open, the root first.
+    /// The entries left to write of each open structure, the root first.
     std::vector<std::span<const ConfigEntry>> levels_;
 };
 

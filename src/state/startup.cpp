@@ -47,7 +47,8 @@ void Main() {
         ShutDown();
         return;
     }
-    Autodetect.LoadConfiguration(JoinPath(directory, "autodetect.cfg"));
+    // Without the table no game is recognised, which is no reason to stop.
+    static_cast<void>(Autodetect.LoadConfiguration(JoinPath(directory, "autodetect.cfg")));
 
     for (toolkit::Window* window : TheApplication.windows) {
         window->Load();

@@ -7,8 +7,8 @@
 
 #include "config/config_map.h"
 
-constexpr double most = std::numeric_limits<double>::max();
-constexpr double infinite = std::numeric_limits<double>::infinity();
+constexpr double Largest = std::numeric_limits<double>::max();
+constexpr double Infinite = std::numeric_limits<double>::infinity();
 
 TEST(Number, ReadsWhatATextBeginsWith) {
     const std::string manyZeros(400, '0');
@@ -20,8 +20,8 @@ TEST(Number, ReadsWhatATextBeginsWith) {
         {-1.5, {"-1.5.5", "-15d-1", "-.15E+1"}},
         {1000, {"1e3", "1e3e3", "1D+3", "&H3e8", "& h3E8g", "&o17508"}},
         {9007199254740991, {"&H1FFFFFFFFFFFFF", "&O377777777777777777", "9007199254740991"}},
-        {most, {"1e400", "1e99999999999999999999", std::string(400, '9'), "&H1" + manyZeros}},
-        {-most, {"-1d400"}},
+        {Largest, {"1e400", "1e99999999999999999999", std::string(400, '9'), "&H1" + manyZeros}},
+        {-Largest, {"-1d400"}},
     };
     for (const auto& [number, texts] : rows) {
         for (const std::string& text : texts) {
@@ -41,7 +41,7 @@ TEST(Number, IsWrittenInItsShortestForm) {
         {"1234567", {1234567.0F, 1234567}},
         {"1E+07", {1e7F}},
         {"-1.5E-07", {-1.5e-7}},
-        {"1.79769313486232E+308", {infinite}},
+        {"1.79769313486232E+308", {Infinite}},
     };
     for (const auto& [text, values] : rows) {
         for (const ConfigValue& value : values) {
@@ -50,7 +50,7 @@ TEST(Number, IsWrittenInItsShortestForm) {
     }
 }
 
-TEST(Number, ComesOutOfEveryKindOfValue) {
+TEST(Number, IsConvertedFromEveryKindOfValue) {
     const std::tuple<ConfigValue, double, std::int32_t> rows[] = {
         {std::make_shared<ConfigMap>(), 0, 0},
         {true, 1, 1},
@@ -58,7 +58,7 @@ TEST(Number, ComesOutOfEveryKindOfValue) {
         {13.5F, 13.5, 14},
         {-0.5, -0.5, 0},
         {-2147483648.5, -2147483648.5, INT_MIN},
-        {infinite, infinite, INT_MAX}};
+        {Infinite, Infinite, INT_MAX}};
     for (const auto& [value, number, whole] : rows) {
         EXPECT_EQ(value.AsNumber(), number);
         EXPECT_EQ(value.AsWhole(), whole);

@@ -8,7 +8,7 @@ using namespace std::string_literals;
 
 namespace {
 
-/// What is written of the tree that a text gives, on one line if nothing else is asked for.
+/// Reads a text and writes its tree, by default on one line.
 std::string Rewritten(std::string_view text, std::string_view newLine = "",
                       bool whitespace = false) {
     clsConfiguration document;
@@ -18,27 +18,27 @@ std::string Rewritten(std::string_view text, std::string_view newLine = "",
 
 }  // namespace
 
-TEST(Reader, MakesOneTreeOfEachText) {
+TEST(Reader, ReadsAnyTextIntoATree) {
     const std::tuple<const char*, std::string, std::string> rows[] = {
         {"whole document",
          "// a comment\nname = \"C:\\\\games\";   /* another */\nskill = 2;\nratio = 0.5;\n"
          "files\n{\n    wad = \"WAD files\";\n}\n",
          "name=\"C:\\\\games\";skill=2;ratio=0.5;files{wad=\"WAD files\";}"},
 
-        {"blanks in a key vanish", " a\r b\t\nc = 1;", "abc=1;"},
-        {"a lone slash vanishes", "a/b/ /c=1;/", "abc=1;"},
+        {"spaces in a key", " a\r b\t\nc = 1;", "abc=1;"},
+        {"lone slash", "a/b/ /c=1;/", "abc=1;"},
         {"any byte in a key", "\"\0\xFF\\\x01=1;"s, "\"\0\xFF\\\x01=1;"s},
         {"repeated keys", "a=1;b{c=1;d;c=2;}a{e;}a=\"x\";", "a=\"x\";b{c=2;d=0;}"},
         {"key without end", "a=1;b", "a=1;"},
 
         {"nested", "a{b{c=1;}d{}dropped}e;", "a{b{c=1;}d{}}e=0;"},
         {"never closed", "a{b=1;c{d=\"x", "a{b=1;c{}}"},
-        {"nameless ones", "{}a{};", "=0;a{}"},
+        {"no name", "{}a{};", "=0;a{}"},
 
         {"comment without end", "a=1;// b=2;", "a=1;"},
         {"no line ends at CR", "/\r/ x\ra=1;\nb=2;", "b=2;"},
         {"block", "a/* b=1; \n */c=2;", "ac=2;"},
-        {"star ends itself", "/*/ x */;", "x*=0;"},
+        {"one star opens and closes", "/*/ x */;", "x*=0;"},
         {"tabs in the ends of a block", "/\t* * \t/ a=1;*\t/b;", "b=0;"},
         {"nothing but stars", "/**/a;/***\r**\t/b;", "a=0;b=0;"},
         {"block without end", "a{b;/* c;}", "a{b=0;}"},
@@ -54,14 +54,14 @@ TEST(Reader, MakesOneTreeOfEachText) {
         {"letter across lines", "a=\"\\\r\tn\\\r\";\"", R"(a="\n\";";)"},
         {"CR and TAB", "a=\"x\r\n\ty\";", R"(a="x\ny";)"},
         {"text without end", "a=\"x;b=1;", ""},
-        {"dropped behind a text", "a=\"x\" b \\\" c;d=1;", "a=\"x\";d=1;"},
-        {"text behind a text", "a=\"x\"\nb=\"y\";c;", "a=\"x\";=\"y\";c=0;"},
-        {"semicolon under the empty key", "=\"a;b\"=1;", "b\"=1;"},
+        {"ignored after a text", "a=\"x\" b \\\" c;d=1;", "a=\"x\";d=1;"},
+        {"text after a text", "a=\"x\"\nb=\"y\";c;", "a=\"x\";=\"y\";c=0;"},
+        {"semicolon under an empty key", "=\"a;b\"=1;", "b\"=1;"},
         {"escaped one", "=\"a\\;b\";", "=\"a;b\";"},
 
         {"widths", "a=-1;b=1e3;c=.1234567891;d=&H10;e=123456789;",
          "a=-1;b=1000;c=0.1234568;d=16;e=123456789;"},
-        {"point anywhere", "a=123456789 x.;b=&H75BCD15.;", "a=1.234568E+08;b=1.234568E+08;"},
+        {"dot anywhere", "a=123456789 x.;b=&H75BCD15.;", "a=1.234568E+08;b=1.234568E+08;"},
         {"braces in a number", "a{b=1 } c=2;}", "a{b=1;}"},
         {"lines in a number", "a=1\r2\t3\n4;", "a=1234;"},
         {"words", "a=true;b=false;c=xyz\"t\";", "a=0;b=0;c=\"t\";"},
@@ -75,7 +75,7 @@ TEST(Reader, MakesOneTreeOfEachText) {
     }
 }
 
-TEST(Reader, GoesOnFromAPositionAndSaysWhereItStopped) {
+TEST(Reader, ContinuesAtAPosition) {
     const std::string text = "a=1;}b=2;}";
     std::size_t position = 0;
     EXPECT_TRUE(ParseBlock(position, text)->Exists("a"));
@@ -84,7 +84,22 @@ TEST(Reader, GoesOnFromAPositionAndSaysWhereItStopped) {
     EXPECT_EQ(position, text.size());
 }
 
-TEST(Writer, LaysBothFormsOutByteForByte) {
+TEST(Reader, KeepsTheLastOfManyRepeatedKeys) {
+    std::string text;
+    for (int entry = 0; entry < 200; ++entry) {
+        text += std::to_string(entry / 2) + "=" + std::to_string(entry) + ";";
+    }
+    clsConfiguration document;
+    document.InputConfiguration(text);
+    ASSERT_EQ(document.Root()->Count(), 100);
+    for (int key = 0; key < 100; ++key) {
+        const ConfigEntry& entry = document.Root()->Entries()[static_cast<std::size_t>(key)];
+        EXPECT_EQ(entry.key, std::to_string(key));
+        EXPECT_EQ(entry.value.AsWhole(), key * 2 + 1);
+    }
+}
+
+TEST(Writer, WritesBothForms) {
     const std::string_view sample =
         "type = \"Sample\";\r\nengine = -1;\r\n\r\niwads\r\n{\r\n"
         "\t0 = \"Sample|C:\\\\sample.wad\";\r\n}\r\n\r\nlastdir = \"C:\\\\Games\";\r\n";
@@ -101,7 +116,7 @@ TEST(Writer, LaysBothFormsOutByteForByte) {
     EXPECT_EQ(OutputBlock(map, 2, "|", true), "\t\t|\t\ta|\t\t{|\t\t}|\t\t|");
 }
 
-TEST(Writer, EscapesFiveCharactersAndEveryTextComesBack) {
+TEST(Writer, EscapesFiveCharactersAndEveryTextIsReadBack) {
     EXPECT_EQ(EscapeText("\\n\n\r\t\"\0\x1F\xFF;'"s), "\\\\n\\n\\r\\t\\\"\0\x1F\xFF;'"s);
     std::string text = "\r\n\"\\;}";
     for (int code = 0; code < 256; ++code) {
