@@ -31,11 +31,12 @@ platform::Outcome clsConfiguration::LoadConfiguration(const std::string& fileNam
 
 void clsConfiguration::InputConfiguration(std::string_view configuration) {
     std::size_t position = 0;
-    configurationRoot_ = ParseBlock(position, configuration);
+    configurationRoot_ = ParseBlock(position, configuration, &textWasComplete_);
 }
 
 void clsConfiguration::NewConfiguration() {
     configurationRoot_ = std::make_shared<ConfigMap>();
+    textWasComplete_ = true;
 }
 
 void clsConfiguration::RemoveSetting(std::string_view setting) {

@@ -24,6 +24,9 @@ class clsConfiguration {
     void InputConfiguration(std::string_view configuration);
     /// Replaces the tree by an empty one.
     void NewConfiguration();
+    /// False if the text that was read last ended inside a structure, a string or a block comment,
+    /// as a file does that was cut off.
+    bool TextWasComplete() const { return textWasComplete_; }
 
     /// Removes a key from the root; no-op if it is absent.
     void RemoveSetting(std::string_view setting);
@@ -51,4 +54,5 @@ class clsConfiguration {
 
   private:
     ConfigMapRef configurationRoot_ = std::make_shared<ConfigMap>();
+    bool textWasComplete_ = true;
 };

@@ -57,6 +57,7 @@ class Reader {
 
     ConfigMapRef Read();
     const char* At() const { return at_; }
+    bool IsComplete() const { return complete_; }
 
   private:
     struct Structure {
@@ -86,10 +87,12 @@ class Reader {
     std::string value_;
     std::vector<Structure> open_;
     std::vector<ConfigEntry> entries_;
+    bool complete_ = true;
 };
 
 ConfigMapRef Reader::Read() {
     ReadEntries();
+    complete_ = complete_ && open_.empty();
     while (!open_.empty()) {
         CloseStructure();
     }
@@ -166,6 +169,7 @@ void Reader::ReadNumber() {
 /// The closing quote stores the value and clears the key; text after it is ignored up to the next
 /// ";". So a ";" ends the string only while the key is empty.
 void Reader::ReadString() {
+    complete_ = false;
     while (at_ != end_) {
         AppendUntil(EndsPlainText, value_);
         if (at_ == end_) {
@@ -175,6 +179,7 @@ void Reader::ReadString() {
             case '"':
                 Store(std::move(value_));
                 value_.clear();
+                complete_ = true;
                 break;
             case '\\':
                 ReadEscape();
@@ -231,10 +236,12 @@ void Reader::SkipComment() {
 
 /// Called at the "*" that opens the comment. The same "*" may close it: "/*/" is a whole comment.
 void Reader::SkipBlockComment() {
+    complete_ = false;
     while ((at_ = std::find(at_, end_, '*')) != end_) {
         at_ = SkipIgnored(at_ + 1);
         if (at_ != end_ && *at_ == '/') {
             ++at_;
+            complete_ = true;
             return;
         }
     }
@@ -279,9 +286,12 @@ ConfigMapRef Reader::TakeEntries(std::size_t first) {
 
 }  // namespace
 
-ConfigMapRef ParseBlock(std::size_t& position, std::string_view text) {
+ConfigMapRef ParseBlock(std::size_t& position, std::string_view text, bool* complete) {
     Reader reader(text, position);
     ConfigMapRef map = reader.Read();
     position = static_cast<std::size_t>(reader.At() - text.data());
+    if (complete != nullptr) {
+        *complete = reader.IsComplete();
+    }
     return map;
 }

@@ -21,5 +21,6 @@
 
 /// Reads from `position`, the number of characters already read, to a `}` that closes nothing or to
 /// the end of the text, and moves `position` past what it read. Of a repeated key the last value
-/// counts, at the first one's place. Only memory limits the depth of nesting.
-ConfigMapRef ParseBlock(std::size_t& position, std::string_view text);
+/// counts, at the first one's place. Only memory limits the depth of nesting. `complete`, if given,
+/// becomes false when the text ends inside a structure, a string or a block comment.
+ConfigMapRef ParseBlock(std::size_t& position, std::string_view text, bool* complete = nullptr);

@@ -99,6 +99,21 @@ TEST(Reader, KeepsTheLastOfManyRepeatedKeys) {
     }
 }
 
+TEST(Reader, ReportsATextThatWasCutOff) {
+    clsConfiguration document;
+    for (const char* text : {"", "a=\"x\"", "a{b=\"/*\";}b=1", "/* */ // c", "/*/", "}a{"}) {
+        document.InputConfiguration(text);
+        EXPECT_TRUE(document.TextWasComplete()) << text;
+    }
+    for (const char* text :
+         {"{", "a{b{}", "a=\"x", "a=\"x\\\"", "a=\"x;", "/*", "a;/**", "{/**/"}) {
+        document.InputConfiguration(text);
+        EXPECT_FALSE(document.TextWasComplete()) << text;
+    }
+    document.NewConfiguration();
+    EXPECT_TRUE(document.TextWasComplete());
+}
+
 TEST(Writer, WritesBothForms) {
     const std::string_view sample =
         "type = \"Sample\";\r\nengine = -1;\r\n\r\niwads\r\n{\r\n"
