@@ -4,8 +4,8 @@
 #include "toolkit/desktop.h"
 
 int main(int argumentCount, char** arguments) {
-    desktop::StartDesktop(argumentCount, arguments);
     platform::RememberArguments(argumentCount, arguments);
+    desktop::StartDesktop();
     ConnectApplication();
     Main();
     return desktop::RunEventLoop();

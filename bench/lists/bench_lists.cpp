@@ -44,8 +44,8 @@ void FillState(int count) {
 
 }  // namespace
 
-int main(int argumentCount, char** arguments) {
-    desktop::StartDesktop(argumentCount, arguments);
+int main() {
+    desktop::StartDesktop();
     ConnectApplication();
     for (toolkit::Window* window : TheApplication.windows) {
         window->Load();

@@ -29,15 +29,15 @@ enum class Property {
     Focus,  // the control is to take the keyboard focus
 };
 
-/// Initialises the windowing system; called before the first window is loaded. Removes the options
-/// of the windowing system from the arguments.
-void StartDesktop(int& argumentCount, char** arguments);
+/// Initialises the windowing system; called before the first window is loaded.
+void StartDesktop();
 /// Handles the events that are pending, and returns.
 void DoEvents();
 /// Handles events until the process ends.
 int RunEventLoop();
 
-/// Adds a window, hidden. The functions below are no-ops for a window that is not loaded.
+/// Adds a window, hidden. The window that is added first is the main window: the end of the session
+/// is a close request to it. The functions below are no-ops for a window that is not loaded.
 void LoadWindow(toolkit::Window& window);
 /// Removes a window, without a close request.
 void UnloadWindow(toolkit::Window& window);

@@ -6,7 +6,7 @@
 int main(int argumentCount, char** arguments) {
     testing::InitGoogleTest(&argumentCount, arguments);
     if (!GTEST_FLAG_GET(list_tests)) {
-        desktop::StartDesktop(argumentCount, arguments);
+        desktop::StartDesktop();
     }
     return RUN_ALL_TESTS();
 }

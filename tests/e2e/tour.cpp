@@ -217,8 +217,8 @@ void Play(const std::string& part) {
 
 }  // namespace
 
-int main(int argumentCount, char** arguments) {
-    desktop::StartDesktop(argumentCount, arguments);
+int main(int /*argumentCount*/, char** arguments) {
+    desktop::StartDesktop();
     platform::RememberArguments(1, arguments);
     folder = arguments[2];
     pictureFolder = arguments[3];

@@ -7,11 +7,17 @@
 #include "toolkit/qt/look.h"
 #include "toolkit/qt/native_windows.h"
 #include "toolkit/qt/pictures.h"
+#include "toolkit/qt/session_end.h"
 #include "toolkit/qt/text.h"
 
 namespace desktop {
 
-void StartDesktop(int& argumentCount, char** arguments) {
+void StartDesktop() {
+    // Qt gets no arguments: those of the program are files, not options such as
+    // -platformpluginpath.
+    static int argumentCount = 1;
+    static char name[] = "zorvane";
+    static char* arguments[] = {name, nullptr};
     // Never destroyed: Qt must outlive the windows, and the process may end while some are open.
     [[maybe_unused]] static const auto* const Application =
         new QApplication(argumentCount, arguments);
@@ -20,6 +26,7 @@ void StartDesktop(int& argumentCount, char** arguments) {
     QApplication::setWindowIcon(ProgramIcon());
     QApplication::setQuitOnLastWindowClosed(false);
     ApplyLook();
+    WatchSessionEnd();
 }
 
 void DoEvents() {
@@ -27,7 +34,7 @@ void DoEvents() {
 }
 
 int RunEventLoop() {
-    return QApplication::exec();
+    return RunWatchedEventLoop();
 }
 
 void LoadWindow(toolkit::Window& window) {

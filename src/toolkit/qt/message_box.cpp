@@ -1,7 +1,9 @@
 #include <QMessageBox>
+#include <cstdio>
 
 #include "toolkit/dialogs.h"
 #include "toolkit/qt/native_windows.h"
+#include "toolkit/qt/session_end.h"
 #include "toolkit/qt/text.h"
 
 namespace desktop {
@@ -22,6 +24,10 @@ QMessageBox::Icon IconOf(MessageIcon icon) {
 }  // namespace
 
 void ShowMessage(const std::string& text, const std::string& title, MessageIcon icon) {
+    if (IsConnectionLost()) {
+        std::fprintf(stderr, "%s: %s\n", title.c_str(), text.c_str());
+        return;
+    }
     QString lines = DisplayText(text);
     lines.replace(QLatin1String("\r\n"), QLatin1String("\n"));
     QMessageBox box(IconOf(icon), DisplayText(title), lines, QMessageBox::Ok, FrontWindow());

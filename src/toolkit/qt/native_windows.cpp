@@ -33,6 +33,10 @@ void Unregister(const toolkit::Window& window) {
     std::erase_if(entries, [&](const Entry& entry) { return entry.window == &window; });
 }
 
+toolkit::Window* MainWindow() {
+    return entries.empty() ? nullptr : entries.front().window;
+}
+
 NativeWindow* FindNative(const toolkit::Window* window) {
     const Entry* entry = window != nullptr ? FindEntry(*window) : nullptr;
     return entry != nullptr ? entry->native : nullptr;

@@ -11,6 +11,9 @@ void Register(toolkit::Window& window);
 /// Removes a window and deletes its native window.
 void Unregister(const toolkit::Window& window);
 
+/// The window that was added first; null if there is none.
+toolkit::Window* MainWindow();
+
 /// The native window; null for a null window and if it has not been created.
 NativeWindow* FindNative(const toolkit::Window* window);
 /// The native window, created if necessary; null for a window that is not loaded.

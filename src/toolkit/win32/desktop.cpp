@@ -6,7 +6,7 @@
 
 namespace desktop {
 
-void StartDesktop(int& /*argumentCount*/, char** /*arguments*/) {
+void StartDesktop() {
     const INITCOMMONCONTROLSEX classes = {
         sizeof classes, ICC_STANDARD_CLASSES | ICC_LISTVIEW_CLASSES | ICC_BAR_CLASSES};
     ::InitCommonControlsEx(&classes);
