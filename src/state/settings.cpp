@@ -32,7 +32,7 @@ ConfigMapRef ListOf(std::string_view key) {
 }
 
 GameWadRecord GameWadFrom(const std::string& text) {
-    const std::size_t bar = text.find('|');
+    const std::size_t bar = text.find('|');  // a path may contain one, a name may not
     if (bar == std::string::npos) {
         return {text, text};
     }
@@ -58,6 +58,7 @@ void LoadLists() {
     }
 }
 
+// The maps are emptied, not replaced, so that their keys keep their places in the file.
 void StoreLists() {
     const ConfigMapRef iwads = ListOf("iwads");
     iwads->RemoveAll();
@@ -82,6 +83,7 @@ void StoreLists() {
 }  // namespace
 
 void InitialiseSettings() {
+    // In the order of a new file. Numbers have 16 bits, as the controls store them.
     constexpr std::int16_t None = NoSelection;
     constexpr std::int16_t ThirdSkill = 2;
     constexpr std::int16_t Off = 0;

@@ -20,7 +20,7 @@ std::vector<std::string> MapNames(const clsWad& wad) {
 }
 
 std::optional<std::string> LowestMap(const clsWad& wad) {
-    const std::string noMapYet(8, '\xFF');
+    const std::string noMapYet(8, '\xFF');  // above every name of ASCII characters
     std::string lowest = noMapYet;
     for (std::int32_t map = NextMap(wad, 0); map >= 0; map = NextMap(wad, map + 1)) {
         std::string name = wad.LumpName(map);

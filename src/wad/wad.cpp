@@ -10,7 +10,8 @@
 
 namespace {
 
-constexpr std::int32_t MaxLumps = 1 << 22;  // a directory of 64 MiB
+// A directory of 64 MiB: far more than any game has, and no file can claim all memory.
+constexpr std::int32_t MaxLumps = 1 << 22;
 
 std::int32_t Clamped(std::int64_t number) {
     using Limits = std::numeric_limits<std::int32_t>;
@@ -45,7 +46,7 @@ void clsWad::OpenWad(std::string fileName) {
     }
     ResetWad();
     file_ = platform::File::Open(fileName, Access::ReadWrite);
-    if (!file_.IsOpen()) {
+    if (!file_.IsOpen()) {  // a write-protected file, or one on a read-only disk
         file_ = platform::File::Open(fileName, Access::Read);
     }
     if (!file_.IsOpen() || !ReadHeaderAndDirectory()) {
@@ -56,7 +57,7 @@ void clsWad::OpenWad(std::string fileName) {
 }
 
 bool clsWad::ReadHeaderAndDirectory() {
-    std::array<char, HeaderBytes> header{};
+    std::array<char, HeaderBytes> header{};  // stays 0 where the file is too short
     file_.ReadAt(0, header.data(), header.size());
     wadTag_.assign(header.data(), TagLength);
     const std::int32_t count = DecodeInt32(&header[4]);

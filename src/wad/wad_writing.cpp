@@ -39,11 +39,12 @@ platform::Outcome clsWad::AddLump(std::string_view lumpName, std::string_view lu
     if (lumpData.size() > MaxEnd - static_cast<std::size_t>(dirOffset_)) {
         return {false, "The lumps of a WAD end below 2 GiB."};
     }
+    // Only the lump reaches the file now; the directory waits in memory for WriteDirectory.
     platform::Outcome outcome = file_.WriteAt(dirOffset_, lumpData);
     if (outcome) {
         const auto size = static_cast<std::int32_t>(lumpData.size());
         directory_.Add(dirOffset_, size, UpperCase(lumpName));
-        lastLump_ = directory_.Count() - 1;
+        lastLump_ = directory_.Count() - 1;  // was -2 if the file had no directory
         dirOffset_ += size;
     }
     return outcome;

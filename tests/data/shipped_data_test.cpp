@@ -17,7 +17,7 @@ namespace {
 namespace fs = std::filesystem;
 using Pairs = std::vector<std::pair<std::string, std::string>>;
 
-const fs::path shipped = ZORVANE_SHIPPED_DATA;
+const fs::path Shipped = ZORVANE_SHIPPED_DATA;
 
 std::string Bytes(const fs::path& file) {
     std::ifstream in(file, std::ios::binary);
@@ -26,9 +26,9 @@ std::string Bytes(const fs::path& file) {
 
 /// Every `key = "text";` of a text, found without the reader, which drops part of a bad key.
 Pairs Texts(const std::string& text) {
-    static const std::regex line(R"rx((?:^|\n)[ \t]*([^/\n][^=\n]*?)[ \t]*=[ \t]*"([^"\n]*)";)rx");
+    static const std::regex Line(R"rx((?:^|\n)[ \t]*([^/\n][^=\n]*?)[ \t]*=[ \t]*"([^"\n]*)";)rx");
     Pairs pairs;
-    for (std::sregex_iterator at(text.begin(), text.end(), line), end; at != end; ++at) {
+    for (std::sregex_iterator at(text.begin(), text.end(), Line), end; at != end; ++at) {
         pairs.emplace_back((*at)[1], (*at)[2]);
     }
     return pairs;
@@ -54,7 +54,7 @@ ConfigMapRef Document(const fs::path& file) {
 
 TEST(ShippedData, DefinesEnginesWithSwitchesThatTheInstalledOnesKnow) {
     std::set<std::string> seen;
-    for (const auto& file : fs::directory_iterator(shipped / "engines")) {
+    for (const auto& file : fs::directory_iterator(Shipped / "engines")) {
         SCOPED_TRACE(file.path());
         const ConfigMapRef definition = Document(file);
         const auto setting = [&](const char* key) { return definition->Item(key).AsText(); };
@@ -86,7 +86,7 @@ TEST(ShippedData, DefinesEnginesWithSwitchesThatTheInstalledOnesKnow) {
 }
 
 TEST(ShippedData, NamesGamesByFileNameInLowerCase) {
-    const Pairs table = Texts(Document(shipped / "autodetect.cfg"));
+    const Pairs table = Texts(Document(Shipped / "autodetect.cfg"));
     EXPECT_GE(table.size(), 56U);
     for (const auto& [file, name] : table) {
         EXPECT_TRUE(Matches(file, R"([._a-z0-9]+\.wad)")) << file;
