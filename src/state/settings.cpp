@@ -1,5 +1,7 @@
 #include "state/settings.h"
 
+#include <algorithm>
+#include <array>
 #include <utility>
 
 #include "platform/facts.h"
@@ -14,12 +16,33 @@ constexpr const char* SettingsFileMark = "Zorvane Configuration file";
 
 /// The settings file as this run last read or wrote it.
 std::string knownFile;
+/// Whether knownFile lacks a part, so that a save would lose the rest of it.
+bool isDamaged = false;
 
-platform::Outcome KeepFileOfAnotherRun() {
+std::string DamagedFileName() {
+    return SettingsFileName + ".damaged";
+}
+
+/// Copies what the next save would destroy.
+platform::Outcome KeepOldFiles() {
+    platform::Outcome outcome;
+    if (isDamaged && !platform::Exists(DamagedFileName())) {
+        outcome = platform::ReplaceWholeFile(DamagedFileName(), knownFile);
+    }
     platform::Outcome read;
     const std::string bytes = platform::ReadWholeFile(SettingsFileName, read);
-    return read && bytes != knownFile ? platform::ReplaceWholeFile(SettingsFileName + ".old", bytes)
-                                      : platform::Outcome{};
+    if (outcome && read && bytes != knownFile) {  // another run wrote it
+        outcome = platform::ReplaceWholeFile(SettingsFileName + ".old", bytes);
+    }
+    return outcome;
+}
+
+bool LacksList() {
+    constexpr std::array Lists = {"iwads", "engines", "pwads"};
+    return std::ranges::any_of(Lists, [](const char* key) {
+        const ConfigValue* value = Settings.Root()->Find(key);
+        return value == nullptr || !value->IsMap();
+    });
 }
 
 /// Returns the map of that key, a new one if there is none.
@@ -110,6 +133,7 @@ void InitialiseSettings() {
     }
     SettingsFileName = JoinPath(directory, "zorvane.cfg");
     knownFile.clear();
+    isDamaged = false;
 }
 
 bool LoadSettings() {
@@ -125,6 +149,13 @@ bool LoadSettings() {
         Fail("The configuration file was corrupted.");
         return false;
     }
+    isDamaged = !Settings.TextWasComplete() || LacksList();
+    if (!Settings.TextWasComplete()) {
+        Warn(
+            "The configuration file is incomplete: only a part of the settings could be read.\r\n"
+            "The first such file is kept as " +
+            DamagedFileName());
+    }
     LoadLists();
     return true;
 }
@@ -135,12 +166,13 @@ platform::Outcome SaveSettings() {
 }
 
 platform::Outcome WriteSettings() {
-    platform::Outcome outcome = KeepFileOfAnotherRun();
+    platform::Outcome outcome = KeepOldFiles();
     if (outcome) {
         outcome = Settings.SaveConfiguration(SettingsFileName);
     }
     if (outcome) {
         knownFile = Settings.OutputConfiguration();
+        isDamaged = false;
     }
     return outcome;
 }

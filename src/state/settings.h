@@ -33,14 +33,16 @@ void InitialiseSettings();
 
 /// Reads the settings file into Settings, GameWads, FileList and the paths and options of Engines.
 /// Shows a message and returns false if the file cannot be read or is of another type; the file
-/// stays as it is.
+/// stays as it is. A file that ends inside a structure, a string or a comment is used as far as it
+/// goes, with a message.
 [[nodiscard]] bool LoadSettings();
 
 /// Copies the three lists into Settings and writes the file.
 [[nodiscard]] platform::Outcome SaveSettings();
 
 /// Writes Settings to the file as it is, atomically: a failure leaves the old file whole. A file
-/// that is not the one that this run read or wrote is kept as `zorvane.cfg.old`.
+/// that is not the one that this run read or wrote is kept as `zorvane.cfg.old`. The first one that
+/// was incomplete or lacked one of the lists is kept as `zorvane.cfg.damaged`.
 [[nodiscard]] platform::Outcome WriteSettings();
 
 /// Returns sixteen characters: "1" for an option that is on, "0" for one that is off.

@@ -85,16 +85,35 @@ TEST_F(SettingsCase, KeepsTheFileThatAnotherRunWrote) {
     EXPECT_EQ(SettingsBytes().find("other"), std::string::npos);
 }
 
-TEST_F(SettingsCase, StartsWithWhatIsLeftOfAFile) {
+TEST_F(SettingsCase, StartsWithWhatIsLeftOfAFileAndKeepsTheFirstOne) {
     ASSERT_TRUE(Start());
     const std::string whole = SettingsBytes();
-    for (std::size_t length = 45; length < whole.size(); length += 7) {
-        SCOPED_TRACE(length);
-        folder.Write("zorvane.cfg", whole.substr(0, length));
+    const std::pair<std::string, bool> rows[] = {
+        {whole.substr(0, whole.find("pwads")), false},
+        {whole.substr(0, whole.find("{")), false},
+        {whole.substr(0, whole.find("{") + 1), true},
+        {whole.substr(0, whole.find("lastdir = \"") + 11), true},
+        {whole + "/* unfinished", true},
+    };
+    const std::string incomplete =
+        "The configuration file is incomplete: only a part of the settings could be read.\r\n"
+        "The first such file is kept as " +
+        folder.Path("zorvane.cfg.damaged");
+    for (const auto& [bytes, isIncomplete] : rows) {
+        SCOPED_TRACE(bytes);
+        folder.Write("zorvane.cfg", bytes);
         ASSERT_TRUE(Start());
+        EXPECT_EQ(memory::TakeMessage(), isIncomplete ? incomplete : "");
+        EXPECT_EQ(SettingsBytes(), bytes);
         Exit();
+        EXPECT_EQ(folder.Read("zorvane.cfg.damaged"), rows[0].first) << "never overwritten";
         ASSERT_TRUE(Start()) << "the file is whole again";
+        Exit();
     }
+    std::filesystem::remove(folder.Native("zorvane.cfg.damaged"));
+    ASSERT_TRUE(Start());
+    Exit();
+    EXPECT_FALSE(exists(folder.Native("zorvane.cfg.damaged"))) << "only a damaged file is kept";
 }
 
 TEST_F(SettingsCase, ConvertsValuesOfOtherTypes) {
