@@ -1,9 +1,8 @@
 // Reading and writing configuration documents beside a bare loop and two libraries. Reading
-// includes giving the tree back.
+// includes freeing the tree.
 #include <benchmark/benchmark.h>
 
 #include <cstdio>
-#include <memory>
 
 #include "config/reader.h"
 #include "config/writer.h"
@@ -13,59 +12,64 @@
 
 namespace {
 
-/// libconfig looks for a key by walking all the keys before it: a large flat document takes it
-/// minutes, so it is left out there.
-constexpr int mostFlatForLibconfig = 10'000;
+/// libconfig searches all the earlier keys of a structure for each key: a flat document of 100,000
+/// takes it minutes.
+constexpr int LargestFlatForLibconfig = 10'000;
 
-void AddLibconfig(Comparison& table, const std::string& name, const ConfigMap& map) {
-    const std::string text = TextOf(map, Dialect::Libconfig);
-    const std::size_t entries = EntriesOf(map);
-    table.Add("read " + name, "libconfig", entries, [text] { LibconfigRead(text); });
-    table.Add("write " + name, "libconfig", entries, LibconfigWriter(text));
+/// What reads a text and what writes its content, empty if they cannot.
+struct Contestant {
+    Comparison::Work read;
+    Comparison::Work write;
+};
+
+Contestant Ours(const ConfigMapRef& map) {
+    return {[text = OutputBlock(*map, 0, "\r\n", true)] {
+                std::size_t position = 0;
+                benchmark::DoNotOptimize(ParseBlock(position, text).get());
+            },
+            [map] { benchmark::DoNotOptimize(OutputBlock(*map, 0, "\r\n", true).data()); }};
 }
 
-void AddLibucl(Comparison& table, const std::string& name, const ConfigMap& map) {
-    if (HasLibucl()) {
-        const std::string text = TextOf(map, Dialect::Libucl);
-        const std::size_t entries = EntriesOf(map);
-        table.Add("read " + name, "libucl", entries, [text] { LibuclRead(text); });
-        table.Add("write " + name, "libucl", entries, LibuclWriter(text));
-    }
+Contestant BareLoop(const std::string& text) {
+    return {[text] { BareRead(text); }, [text] { BareWrite(text); }};
 }
 
-void AddDocument(Comparison& table, const std::string& name, const ConfigMapRef& map,
-                 bool suitsLibconfig = true) {
-    const std::string text = OutputBlock(*map, 0, "\r\n", true);
+Contestant Libconfig(const std::string& text) {
+    return {[text] { LibconfigRead(text); }, LibconfigWriter(text)};
+}
+
+Contestant Libucl(const std::string& text) {
+    return {[text] { LibuclRead(text); }, LibuclWriter(text)};
+}
+
+void MeasureDocument(const Comparison& table, const std::string& name, const ConfigMapRef& map,
+                     bool suitsLibconfig = true) {
     const std::size_t entries = EntriesOf(*map);
-    table.Add("read " + name, "ours", entries, [text] {
-        std::size_t position = 0;
-        benchmark::DoNotOptimize(ParseBlock(position, text).get());
-    });
-    table.Add("write " + name, "ours", entries,
-              [map] { benchmark::DoNotOptimize(OutputBlock(*map, 0, "\r\n", true).data()); });
-    table.Add("read " + name, "bare loop", entries, [text] { BareRead(text); });
-    table.Add("write " + name, "bare loop", entries, [text] { BareWrite(text); });
-    if (suitsLibconfig) {
-        AddLibconfig(table, name, *map);
-    }
-    AddLibucl(table, name, *map);
+    const Contestant ours = Ours(map);
+    const Contestant bare = BareLoop(OutputBlock(*map, 0, "\r\n", true));
+    const Contestant libconfig =
+        suitsLibconfig ? Libconfig(TextOf(*map, Dialect::Libconfig)) : Contestant{};
+    const Contestant libucl = HasLibucl() ? Libucl(TextOf(*map, Dialect::Libucl)) : Contestant{};
+    table.Measure("read " + name, entries, {ours.read, bare.read, libconfig.read, libucl.read});
+    table.Measure("write " + name, entries,
+                  {ours.write, bare.write, libconfig.write, libucl.write});
 }
 
 }  // namespace
 
 int main(int argumentCount, char** arguments) {
-    Comparison table("Configuration documents", "entry");
     const ConfigMapRef settings = SettingsFile();
     std::printf("settings file: %zu bytes, %zu entries\n",
                 OutputBlock(*settings, 0, "\r\n", true).size(), EntriesOf(*settings));
-    AddDocument(table, "settings file", settings);
-    for (const int count : {1'000, 100'000, 1'000'000}) {
-        AddDocument(table, "flat " + std::to_string(count), Flat(count),
-                    count <= mostFlatForLibconfig);
-        AddDocument(table, "nested " + std::to_string(count), Nested(count));
+    const Comparison table(argumentCount, arguments, "Configuration documents", "entry",
+                           {"ours", "bare loop", "libconfig", "libucl"});
+    MeasureDocument(table, "settings file", settings);
+    for (const int count : {1'000, 1'000'000}) {
+        MeasureDocument(table, "flat " + std::to_string(count), Flat(count),
+                        count <= LargestFlatForLibconfig);
+        MeasureDocument(table, "nested " + std::to_string(count), Nested(count));
     }
-    table.Run(argumentCount, arguments);
     std::printf(
         "libconfig is left out of flat documents above %d entries: it is quadratic there.\n",
-        mostFlatForLibconfig);
+        LargestFlatForLibconfig);
 }

@@ -86,7 +86,7 @@ std::size_t EntriesOf(const ConfigMap& map) {
     return entries;
 }
 
-/// Both allow what the other one needs of "=", quotes and ";". A key of libconfig begins with a
+/// Both libraries accept "=", quotes and ";" as written here. A key of libconfig must begin with a
 /// letter, and its structures need ":" and ";".
 std::string TextOf(const ConfigMap& map, Dialect dialect) {
     std::string text;

@@ -1,5 +1,5 @@
-// libucl as the package ships it that scripts/get-libucl unpacks: without its header, and in
-// a library that brings an operator new of its own. So it is loaded by hand and kept to itself.
+// libucl as it is in the package that scripts/get-libucl unpacks: without its header, and in a
+// library that has its own operator new. So it is loaded at run time, with its symbols kept apart.
 #include <benchmark/benchmark.h>
 #include <dlfcn.h>
 
@@ -11,19 +11,19 @@
 
 namespace {
 
-constexpr int timesAreTexts = 4;  // UCL_PARSER_NO_TIME
-constexpr int configForm = 2;     // UCL_EMIT_CONFIG
+constexpr int NoTimeValues = 4;  // UCL_PARSER_NO_TIME
+constexpr int ConfigForm = 2;    // UCL_EMIT_CONFIG
 
 struct ucl_parser;
 struct ucl_object_t;
 
-/// Null when it is not there.
+/// Null if it is missing.
 void* Library() {
     static void* const library = dlopen("librspamd-server.so", RTLD_LAZY | RTLD_LOCAL);
     return library;
 }
 
-/// A function of its documented interface, called by name.
+/// Calls a function of its documented interface by name.
 template <class Result, class... Parameters>
 Result Call(const char* name, Parameters... parameters) {
     return reinterpret_cast<Result (*)(Parameters...)>(dlsym(Library(), name))(parameters...);
@@ -36,7 +36,7 @@ void Release(ucl_object_t* object) {
 using Object = std::unique_ptr<ucl_object_t, decltype(&Release)>;
 
 Object Read(const std::string& text) {
-    auto* const parser = Call<ucl_parser*>("ucl_parser_new", timesAreTexts);
+    auto* const parser = Call<ucl_parser*>("ucl_parser_new", NoTimeValues);
     if (!Call<bool>("ucl_parser_add_chunk", parser, text.data(), text.size())) {
         std::fprintf(stderr, "libucl: %s\n", Call<const char*>("ucl_parser_get_error", parser));
         std::abort();
@@ -58,8 +58,7 @@ void LibuclRead(const std::string& text) {
 }
 
 std::function<void()> LibuclWriter(const std::string& text) {
-    return [text, object = std::shared_ptr<ucl_object_t>()]() mutable {
-        object = object ? object : Read(text);
-        std::free(Call<char*>("ucl_object_emit", object.get(), configForm));
+    return [object = std::shared_ptr<ucl_object_t>(Read(text))] {
+        std::free(Call<char*>("ucl_object_emit", object.get(), ConfigForm));
     };
 }

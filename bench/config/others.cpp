@@ -64,9 +64,9 @@ void BareRead(const std::string& text) {
 }
 
 void BareWrite(const std::string& text) {
-    static std::vector<char> room;
-    room.resize(text.size() * 2);
-    char* at = room.data();
+    static std::vector<char> buffer;
+    buffer.resize(text.size() * 2);
+    char* at = buffer.data();
     for (const char character : text) {
         switch (character) {
             case '\\':
@@ -78,7 +78,7 @@ void BareWrite(const std::string& text) {
         }
         *at++ = character;
     }
-    benchmark::DoNotOptimize(room.data());
+    benchmark::DoNotOptimize(buffer.data());
     benchmark::ClobberMemory();
 }
 
@@ -88,8 +88,7 @@ void LibconfigRead(const std::string& text) {
 }
 
 std::function<void()> LibconfigWriter(const std::string& text) {
-    return [text, document = std::shared_ptr<Document>()]() mutable {
-        document = document ? document : std::make_shared<Document>(text);
+    return [document = std::make_shared<Document>(text)] {
         char* bytes = nullptr;
         std::size_t size = 0;
         FILE* const stream = open_memstream(&bytes, &size);

@@ -1,4 +1,4 @@
-// Who is measured beside us. Each does the whole of the work and throws the result away.
+// What ours is measured beside. Each does all of the work and discards the result.
 #pragma once
 
 #include <functional>
@@ -6,14 +6,14 @@
 
 /// A loop that looks at each byte once through a switch and builds nothing.
 void BareRead(const std::string& text);
-/// A loop that looks at each byte once through a switch and writes it into memory that is there.
+/// A loop that looks at each byte once through a switch and writes it into a buffer.
 void BareWrite(const std::string& text);
 
 void LibconfigRead(const std::string& text);
-/// What reads the text at its first call, and writes it again at each.
+/// Reads the text; the result writes it again.
 std::function<void()> LibconfigWriter(const std::string& text);
 
-/// Whether libucl is there, without which the others must not be called.
+/// Whether libucl is available; the others must not be called if not.
 bool HasLibucl();
 void LibuclRead(const std::string& text);
 std::function<void()> LibuclWriter(const std::string& text);

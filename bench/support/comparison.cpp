@@ -5,15 +5,12 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include <algorithm>
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
 #include <map>
 
 namespace {
-
-constexpr char separator = '|';
 
 /// Keeps the medians and prints nothing.
 class Medians : public benchmark::BenchmarkReporter {
@@ -29,35 +26,28 @@ class Medians : public benchmark::BenchmarkReporter {
     std::map<std::string, double> nanoseconds;
 };
 
-template <class List, class Same>
-void AddOnce(List& list, typename List::value_type item, Same same) {
-    if (std::ranges::find_if(list, same) == list.end()) {
-        list.push_back(std::move(item));
-    }
-}
-
-/// Once to warm up, then for a while; gives the mean.
-double Seconds(const std::function<void()>& work) {
+/// Calls the work once to warm up, then for at least 30 ms; returns the mean of the latter.
+double Seconds(const Comparison::Work& work) {
     using Clock = std::chrono::steady_clock;
-    constexpr std::chrono::duration<double> whole(0.03);
-    // Each turn finds the memory that the one before it left: pages fresh from the kernel at each
-    // turn would cost what handles much more than half of what is compared.
+    constexpr std::chrono::duration<double> Least(0.03);
+    // Freed memory stays in the process: fresh pages from the kernel for each call would cost those
+    // with much memory more than half of what is compared.
     mallopt(M_MMAP_MAX, 0);
     mallopt(M_TRIM_THRESHOLD, -1);
     work();
     const auto start = Clock::now();
     std::chrono::duration<double> passed{};
-    int turns = 0;
+    int calls = 0;
     do {
         work();
-        ++turns;
+        ++calls;
         passed = Clock::now() - start;
-    } while (passed < whole);
-    return passed.count() / turns;
+    } while (passed < Least);
+    return passed.count() / calls;
 }
 
-/// Measures in a process of its own, so that nobody's heap depends on who came before.
-double SecondsAlone(const std::function<void()>& work) {
+/// Measures in a child process, so that the heap does not depend on who ran before.
+double SecondsAlone(const Comparison::Work& work) {
     int ends[2] = {};
     if (pipe(ends) != 0) {
         std::abort();
@@ -65,14 +55,14 @@ double SecondsAlone(const std::function<void()>& work) {
     const pid_t child = fork();
     if (child == 0) {
         const double seconds = Seconds(work);
-        const bool told = write(ends[1], &seconds, sizeof seconds) == sizeof seconds;
-        _exit(told ? 0 : 1);
+        const bool sent = write(ends[1], &seconds, sizeof seconds) == sizeof seconds;
+        _exit(sent ? 0 : 1);
     }
     close(ends[1]);
     double seconds = 0;
-    const bool heard = child > 0 && read(ends[0], &seconds, sizeof seconds) == sizeof seconds;
+    const bool received = child > 0 && read(ends[0], &seconds, sizeof seconds) == sizeof seconds;
     close(ends[0]);
-    if (!heard || waitpid(child, nullptr, 0) != child) {
+    if (!received || waitpid(child, nullptr, 0) != child) {
         std::abort();
     }
     return seconds;
@@ -80,54 +70,56 @@ double SecondsAlone(const std::function<void()>& work) {
 
 }  // namespace
 
-void Comparison::Add(const std::string& row, const std::string& who, std::size_t units,
-                     const std::function<void()>& work) {
-    AddOnce(rows_, {row, units}, [&](const Row& other) { return other.name == row; });
-    AddOnce(columns_, who, [&](const std::string& other) { return other == who; });
-    const std::string name = row + separator + who;
-    benchmark::RegisterBenchmark(name.c_str(),
-                                 [work](benchmark::State& state) {
-                                     for ([[maybe_unused]] const auto& turn : state) {
-                                         state.SetIterationTime(SecondsAlone(work));
-                                     }
-                                 })
-        ->Iterations(1)
-        ->Repetitions(15)
-        ->UseManualTime();
-}
-
-void Comparison::Run(int argumentCount, char** arguments) const {
-    // Taking turns, so that a machine that is busy for a while is busy for everybody.
+Comparison::Comparison(int argumentCount, char** arguments, const std::string& title,
+                       const std::string& unit, std::vector<std::string> columns)
+    : columns_(std::move(columns)) {
+    // In random order, so that whatever else keeps the machine busy disturbs everyone alike.
     std::string interleave = "--benchmark_enable_random_interleaving=true";
     std::vector<char*> all(arguments, arguments + argumentCount);
     all.insert(all.begin() + 1, interleave.data());
     argumentCount = static_cast<int>(all.size());
     benchmark::Initialize(&argumentCount, all.data());
-    Medians medians;
-    benchmark::RunSpecifiedBenchmarks(&medians);
 
-    std::printf("%s: ns per %s, median of 15 runs; (times as long as that ours takes)\n\n%-28s",
-                title_.c_str(), unit_.c_str(), "");
+    std::printf("%s: ns per %s, median; (our time divided by theirs)\n\n%-28s", title.c_str(),
+                unit.c_str(), "");
     for (const std::string& column : columns_) {
         std::printf("%20s", column.c_str());
     }
-    for (const Row& row : rows_) {
-        std::printf("\n%-28s", row.name.c_str());
-        double ours = 0;
-        for (const std::string& column : columns_) {
-            const auto found = medians.nanoseconds.find(row.name + separator + column);
-            if (found == medians.nanoseconds.end()) {
-                std::printf("%20s", "-");
-                continue;
-            }
-            const double time = found->second / static_cast<double>(row.units);
-            if (column == columns_.front()) {
-                ours = time;
-                std::printf("%20.1f", time);
-            } else {
-                std::printf("%12.1f (%5.2f)", time, ours / time);
-            }
+    std::printf("\n");
+}
+
+void Comparison::Measure(const std::string& row, std::size_t units,
+                         const std::vector<Work>& works) const {
+    constexpr std::size_t LargeRow = 100'000;
+    const auto nameOf = [&](std::size_t column) { return row + '|' + columns_[column]; };
+    for (std::size_t column = 0; column < works.size(); ++column) {
+        if (const Work& work = works[column]) {
+            const auto run = [&work](benchmark::State& state) {
+                for ([[maybe_unused]] const auto& turn : state) {
+                    state.SetIterationTime(SecondsAlone(work));
+                }
+            };
+            benchmark::RegisterBenchmark(nameOf(column).c_str(), run)
+                ->Iterations(1)
+                ->Repetitions(units > LargeRow ? 5 : 15)
+                ->UseManualTime();
+        }
+    }
+    Medians medians;
+    benchmark::RunSpecifiedBenchmarks(&medians);
+    benchmark::ClearRegisteredBenchmarks();
+
+    std::printf("%-28s", row.c_str());
+    const double ours = medians.nanoseconds[nameOf(0)] / static_cast<double>(units);
+    std::printf("%20.1f", ours);
+    for (std::size_t column = 1; column < columns_.size(); ++column) {
+        const double time = medians.nanoseconds[nameOf(column)] / static_cast<double>(units);
+        if (time > 0) {
+            std::printf("%12.1f (%5.2f)", time, ours / time);
+        } else {
+            std::printf("%20s", "-");
         }
     }
     std::printf("\n");
+    std::fflush(stdout);
 }

@@ -26,8 +26,8 @@ std::string SyntheticWad(int lumps) {
     return WadOf(names);
 }
 
-void AddFile(Comparison& table, const std::string& name, const std::string& path,
-             const std::string& native) {
+void MeasureFile(const Comparison& table, const std::string& name, const std::string& path,
+                 const std::string& native) {
     clsWad wad;
     wad.OpenWad(path);
     const auto lumps = static_cast<std::size_t>(wad.Directory().Count());
@@ -35,27 +35,27 @@ void AddFile(Comparison& table, const std::string& name, const std::string& path
         std::fprintf(stderr, "%s: different maps\n", native.c_str());
         std::abort();
     }
-    table.Add(name, "ours", lumps, [path] {
-        clsWad opened;
-        opened.OpenWad(path);
-        benchmark::DoNotOptimize(MapNames(opened).data());
-    });
-    table.Add(name, "bare C", lumps,
-              [native] { benchmark::DoNotOptimize(BareMapCount(native.c_str())); });
+    table.Measure(name, lumps,
+                  {[path] {
+                       clsWad opened;
+                       opened.OpenWad(path);
+                       benchmark::DoNotOptimize(MapNames(opened).data());
+                   },
+                   [native] { benchmark::DoNotOptimize(BareMapCount(native.c_str())); }});
 }
 
 }  // namespace
 
 int main(int argumentCount, char** arguments) {
     const TempFolder folder;
-    Comparison table("Opening a WAD and listing its maps", "lump");
+    const Comparison table(argumentCount, arguments, "Opening a WAD and listing its maps", "lump",
+                           {"ours", "bare C"});
     if (std::filesystem::exists(RealWad)) {
-        AddFile(table, "freedoom2.wad", RealWad, RealWad);
+        MeasureFile(table, "freedoom2.wad", RealWad, RealWad);
     }
     for (const int lumps : {3'000, 100'000, 1'000'000}) {
         const std::string name = std::to_string(lumps) + ".wad";
-        AddFile(table, std::to_string(lumps) + " lumps", folder.Write(name, SyntheticWad(lumps)),
-                folder.Native(name).string());
+        MeasureFile(table, std::to_string(lumps) + " lumps",
+                    folder.Write(name, SyntheticWad(lumps)), folder.Native(name).string());
     }
-    table.Run(argumentCount, arguments);
 }
