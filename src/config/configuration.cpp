@@ -10,16 +10,16 @@ namespace {
 /// Creates the file if it is missing. A file with content was not missing: then the outcome is the
 /// reason why it could not be read.
 platform::Outcome CreateIfMissing(const std::string& fileName, const platform::Outcome& reason) {
-    platform::Outcome outcome;
-    const auto file = platform::File::Open(fileName, platform::File::Access::Create, &outcome);
-    return file.IsOpen() && file.Size() > 0 ? reason : outcome;
+    platform::File file;
+    platform::Outcome outcome = file.Open(fileName, platform::File::Access::Create);
+    return file.Size() > 0 ? reason : outcome;
 }
 
 }  // namespace
 
 platform::Outcome clsConfiguration::LoadConfiguration(const std::string& fileName) {
-    platform::Outcome outcome;
-    const std::string text = platform::ReadWholeFile(fileName, outcome);
+    std::string text;
+    platform::Outcome outcome = platform::ReadWholeFile(fileName, text);
     if (!outcome) {
         outcome = CreateIfMissing(fileName, outcome);
     }

@@ -1,6 +1,6 @@
-// Files, as the system asks for them. Every path is a Windows path with backslashes; a native path
-// is accepted as well. On Linux the whole tree is drive Z: and names are found whatever the case of
-// their ASCII letters, the exact name first.
+// Files of the operating system. Every path is a Windows path with backslashes; a native path is
+// accepted as well. On Linux the file tree is drive Z: and a name is found in any case of its ASCII
+// letters, the exact name first.
 #pragma once
 
 #include <cstddef>
@@ -8,90 +8,88 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
+
+#include "platform/outcome.h"
 
 namespace platform {
 
-/// How a file operation ended: `ok`, or the reason in the operating system's words.
-struct Outcome {
-    bool ok = true;
-    std::string reason;
-    explicit operator bool() const { return ok; }
-};
-
-/// An open file of raw bytes, addressed by absolute positions from 0. Owns the file and closes it.
-/// Only regular files open: a folder, a pipe or a device is refused at once and never waited for.
-/// Other programs may read the file meanwhile.
+/// An open file of raw bytes, addressed by absolute positions from 0. Closes the file when it is
+/// destroyed. Opens regular files only: a folder, a pipe or a device is a failure at once. Other
+/// programs may use the file meanwhile.
 class File {
   public:
     enum class Access {
-        Read,       // the file must be there
-        ReadWrite,  // the file must be there and be writable; nothing is cut off
-        Create,     // as ReadWrite, and made empty if it is not there
+        Read,       // the file must exist
+        ReadWrite,  // the file must exist; its content stays
+        Create,     // as ReadWrite, but a missing file is created empty
     };
 
     /// A closed file.
     File() = default;
-    /// The open file, or a closed one when the system refuses; `outcome` then says why.
-    static File Open(const std::string& path, Access access, Outcome* outcome = nullptr);
-
-    File(File&& other) noexcept;
-    File& operator=(File&& other) noexcept;
+    File(File&& other) noexcept : handle_(std::exchange(other.handle_, -1)) {}
+    File& operator=(File&& other) noexcept {
+        std::swap(handle_, other.handle_);
+        return *this;
+    }
     File(const File&) = delete;
     File& operator=(const File&) = delete;
-    ~File();
+    ~File() { Close(); }
 
+    /// Closes the file and opens another. On failure it stays closed.
+    Outcome Open(const std::string& path, Access access);
     bool IsOpen() const { return handle_ >= 0; }
     void Close();
 
-    /// Reads up to `size` bytes from `position` into `buffer`; gives the number read, less than
-    /// `size` at the end of the file, 0 on failure.
-    std::size_t ReadAt(std::int64_t position, void* buffer, std::size_t size) const;
-    /// Writes all the bytes, growing the file as needed.
+    /// Reads up to `size` bytes at `position` into `buffer`. `count` is the number read: less than
+    /// `size` only at the end of the file, 0 on failure.
+    Outcome ReadAt(std::int64_t position, void* buffer, std::size_t size, std::size_t& count) const;
+    /// Writes all the bytes at `position`; the file grows as needed.
     Outcome WriteAt(std::int64_t position, std::string_view bytes);
-    /// Hands everything written over to the disk.
+    /// Returns once everything written is on the disk.
     Outcome Flush();
-    /// Length in bytes, 0 on failure.
+    /// Length in bytes, 0 for a closed file.
     std::int64_t Size() const;
-    /// Moves the read position that Handle() shares; gives whether that worked.
-    bool Seek(std::int64_t position) const;
-    /// The C runtime's descriptor, -1 when closed. Stays owned by this object.
+    /// Moves the read position of Handle().
+    Outcome Seek(std::int64_t position) const;
+    /// The C runtime's descriptor, which this object still owns; -1 for a closed file.
     int Handle() const { return handle_; }
 
   private:
     int handle_ = -1;
 };
 
-/// Whether the path names an existing ordinary file: not a folder, not hidden (on Linux: its name
-/// begins with a point), not a system file, pipe or device. Read-only files count.
+/// Whether the path names an existing ordinary file: not a folder, pipe, device or system file, and
+/// not hidden (on Linux: its name begins with a dot). Read-only files count.
 bool IsOrdinaryFile(const std::string& path);
 
-/// Whether anything at all has that name: a file of any kind, hidden or not, or a folder.
+/// Whether the path names anything: a file of any kind, hidden or not, or a folder.
 bool Exists(const std::string& path);
 
-/// The bare name under which `path` finds an ordinary file, as it is on the disk. A program that
-/// stands for a name in `.exe` goes by the name asked for, so the length is always that of the bare
-/// name in `path`. Empty when there is none; nothing at all when the text is no usable file name (a
-/// URL).
+/// Returns the bare name of the ordinary file that `path` names, as the disk spells it. Returns an
+/// empty text if there is none, and nothing if the text cannot be a file name, such as a URL. The
+/// result is as long as the bare name in `path`: if `foo.exe` is missing and `foo` exists, returns
+/// `foo.exe`.
 std::optional<std::string> LookUpFileName(const std::string& path);
 
-/// Bare names of the ordinary files in `directory` that match `pattern` (`*` and `?`, any case), in
-/// case-insensitive name order. Empty when the directory is not there.
+/// Bare names of the ordinary files in `directory` that match `pattern` (`*` and `?`, in any case),
+/// in case-insensitive name order. Empty if there is no such directory.
 std::vector<std::string> ListFiles(const std::string& directory, const std::string& pattern);
 
-/// All bytes of a regular file; `outcome` says whether it could be read.
-std::string ReadWholeFile(const std::string& path, Outcome& outcome);
+/// Reads all bytes of a regular file. `bytes` is empty on failure.
+Outcome ReadWholeFile(const std::string& path, std::string& bytes);
 
-/// Puts `bytes` in the place of the file, or makes it: a new file is written beside the old one and
-/// takes its name in one step. A failure leaves the old file whole. Keeps the old file's rights and
-/// follows a link to the file it names.
+/// Writes a file atomically: writes a temporary file beside it, flushes that and renames it over
+/// the target. A failure leaves the old file whole. Follows links, and keeps the permissions of an
+/// existing file.
 Outcome ReplaceWholeFile(const std::string& path, std::string_view bytes);
 
-/// Copies the content of one file over another, which is replaced. Fails when both are one file; a
-/// failure leaves no half copy under the target's name.
+/// Copies the content of one file over another, atomically as ReplaceWholeFile. Fails if both are
+/// the same file.
 Outcome CopyWholeFile(const std::string& from, const std::string& to);
 
-/// Deletes one file. A file that is not there is a failure.
+/// Deletes one file. Fails if there is none.
 Outcome RemoveFile(const std::string& path);
 
 }  // namespace platform

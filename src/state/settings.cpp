@@ -29,8 +29,8 @@ platform::Outcome KeepOldFiles() {
     if (isDamaged && !platform::Exists(DamagedFileName())) {
         outcome = platform::ReplaceWholeFile(DamagedFileName(), knownFile);
     }
-    platform::Outcome read;
-    const std::string bytes = platform::ReadWholeFile(SettingsFileName, read);
+    std::string bytes;
+    const bool read = platform::ReadWholeFile(SettingsFileName, bytes).ok;
     if (outcome && read && bytes != knownFile) {  // another run wrote it
         outcome = platform::ReplaceWholeFile(SettingsFileName + ".old", bytes);
     }
@@ -137,8 +137,7 @@ void InitialiseSettings() {
 }
 
 bool LoadSettings() {
-    platform::Outcome outcome;
-    knownFile = platform::ReadWholeFile(SettingsFileName, outcome);
+    const platform::Outcome outcome = platform::ReadWholeFile(SettingsFileName, knownFile);
     if (!outcome) {
         Fail("The settings could not be read from " + SettingsFileName + "\r\n" + outcome.reason);
         return false;

@@ -32,8 +32,9 @@ bool WadDirectory::Read(const platform::File& file, std::int64_t offset, std::in
     } catch (const std::bad_alloc&) {
         return false;
     }
-    if (!bytes.empty()) {
-        file.ReadAt(offset, bytes.data(), bytes.size());
+    std::size_t read = 0;
+    if (!bytes.empty() && !file.ReadAt(offset, bytes.data(), bytes.size(), read)) {
+        return false;
     }
     bytes_ = std::move(bytes);
     count_ = count;

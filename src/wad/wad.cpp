@@ -22,9 +22,9 @@ std::int32_t Clamped(std::int64_t number) {
 template <class Bytes>
 Bytes ReadBytes(const platform::File& file, const WadLumpEntry& entry) {
     Bytes bytes(static_cast<std::size_t>(std::max(entry.size, 0)), 0);
-    if (!bytes.empty() && entry.filePos >= 0) {
-        file.ReadAt(entry.filePos, bytes.data(), bytes.size());
-    }
+    // What the file does not have stays zero.
+    std::size_t count = 0;
+    static_cast<void>(file.ReadAt(entry.filePos, bytes.data(), bytes.size(), count));
     return bytes;
 }
 
@@ -45,11 +45,10 @@ void clsWad::OpenWad(std::string fileName) {
         return;
     }
     ResetWad();
-    file_ = platform::File::Open(fileName, Access::ReadWrite);
-    if (!file_.IsOpen()) {  // a write-protected file, or one on a read-only disk
-        file_ = platform::File::Open(fileName, Access::Read);
-    }
-    if (!file_.IsOpen() || !ReadHeaderAndDirectory()) {
+    // The second for a write-protected file, or one on a read-only disk.
+    const bool isOpen =
+        file_.Open(fileName, Access::ReadWrite) || file_.Open(fileName, Access::Read);
+    if (!isOpen || !ReadHeaderAndDirectory()) {
         ResetWad();
         return;
     }
@@ -58,7 +57,10 @@ void clsWad::OpenWad(std::string fileName) {
 
 bool clsWad::ReadHeaderAndDirectory() {
     std::array<char, HeaderBytes> header{};  // stays 0 where the file is too short
-    file_.ReadAt(0, header.data(), header.size());
+    std::size_t read = 0;
+    if (!file_.ReadAt(0, header.data(), header.size(), read)) {
+        return false;
+    }
     wadTag_.assign(header.data(), TagLength);
     const std::int32_t count = DecodeInt32(&header[4]);
     if ((wadTag_ != "IWAD" && wadTag_ != "PWAD") || count < -1 || count > MaxLumps) {
@@ -78,8 +80,7 @@ std::string clsWad::ReadLumpString(std::int32_t lumpNum) const {
 }
 
 std::int32_t clsWad::SeekLump(std::int32_t lumpIndex) const {
-    file_.Seek(LumpOffset(lumpIndex));
-    return file_.Handle();
+    return file_.Seek(LumpOffset(lumpIndex)) ? file_.Handle() : -1;
 }
 
 std::int32_t clsWad::WadType() const {

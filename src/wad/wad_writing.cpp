@@ -17,8 +17,7 @@ platform::Outcome clsWad::CreateWad(std::string fileName, std::string& wadType) 
     }
     ResetWad();
     wadType = UpperCase(wadType);
-    platform::Outcome outcome;
-    file_ = platform::File::Open(fileName, platform::File::Access::Create, &outcome);
+    platform::Outcome outcome = file_.Open(fileName, platform::File::Access::Create);
     wadTag_ = wadType;
     if (outcome) {
         outcome = file_.WriteAt(0, Header(lastLump_));

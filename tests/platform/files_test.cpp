@@ -13,31 +13,35 @@ using platform::Outcome;
 
 namespace {
 
-std::string ReadAll(const File& file, std::int64_t position) {
+std::string ReadFrom(const File& file, std::int64_t position) {
     std::array<char, 64> buffer = {};
-    return {buffer.data(), file.ReadAt(position, buffer.data(), buffer.size())};
+    std::size_t count = 0;
+    EXPECT_TRUE(file.ReadAt(position, buffer.data(), buffer.size(), count));
+    return {buffer.data(), count};
 }
 
 TEST(Files, AreReadAndWrittenAtAbsolutePositions) {
     const TempFolder folder;
-    Outcome outcome;
-    EXPECT_FALSE(File::Open(folder.Path("a.bin"), File::Access::ReadWrite, &outcome).IsOpen());
-    EXPECT_FALSE(outcome || outcome.reason.empty());
-    File file = File::Open(folder.Path("a.bin"), File::Access::Create, &outcome);
-    ASSERT_TRUE(file.IsOpen()) << outcome.reason;
+    File file;
+    EXPECT_NE(file.Open(folder.Path("a.bin"), File::Access::ReadWrite).reason, "");
+    EXPECT_FALSE(file.IsOpen());
+    const Outcome created = file.Open(folder.Path("a.bin"), File::Access::Create);
+    ASSERT_TRUE(created) << created.reason;
     EXPECT_TRUE(file.WriteAt(4, std::string_view("b\0\r\n\xff", 5)));
     EXPECT_TRUE(file.WriteAt(0, "aa"));
     EXPECT_TRUE(file.Flush());
     EXPECT_EQ(file.Size(), 9);
-    EXPECT_EQ(ReadAll(file, 1), std::string("a\0\0b\0\r\n\xff", 8));
-    EXPECT_EQ(ReadAll(file, 9) + ReadAll(file, -1), "");
-    File reader = File::Open(folder.Path("A.BIN"), File::Access::Read);
-    ASSERT_TRUE(reader.IsOpen());
-    EXPECT_EQ(ReadAll(reader, 0), ReadAll(file, 0));
+    EXPECT_EQ(ReadFrom(file, 1), std::string("a\0\0b\0\r\n\xff", 8));
+    EXPECT_EQ(ReadFrom(file, 9), "");
+    std::size_t count = 1;
+    EXPECT_NE(file.ReadAt(-1, nullptr, 1, count).reason, "");
+    EXPECT_EQ(count, 0U);
+    File reader;
+    ASSERT_TRUE(reader.Open(folder.Path("A.BIN"), File::Access::Read));
+    EXPECT_EQ(ReadFrom(reader, 0), ReadFrom(file, 0));
     EXPECT_FALSE(reader.WriteAt(0, "x"));
-    reader = File();
-    file.Close();
-    EXPECT_EQ(File::Open(folder.Path("a.bin"), File::Access::Create).Size(), 9);
+    EXPECT_TRUE(reader.Open(folder.Path("a.bin"), File::Access::Create));
+    EXPECT_EQ(reader.Size(), 9);
 }
 
 TEST(Files, OnlyRegularFilesAreOrdinary) {
@@ -48,7 +52,7 @@ TEST(Files, OnlyRegularFilesAreOrdinary) {
     EXPECT_FALSE(platform::IsOrdinaryFile(folder.Path("sub")));
     EXPECT_FALSE(platform::Exists(folder.Path("none")));
     EXPECT_FALSE(platform::IsOrdinaryFile(""));
-    EXPECT_FALSE(File::Open(folder.Path("sub"), File::Access::Read).IsOpen());
+    EXPECT_FALSE(File().Open(folder.Path("sub"), File::Access::Read));
 
     EXPECT_EQ(platform::LookUpFileName(folder.Path("sub/NAME.wad")), "Name.Wad");
     EXPECT_EQ(platform::LookUpFileName(folder.Path("sub")), "");
@@ -81,19 +85,19 @@ TEST(Files, AreListedByPatternInNameOrder) {
 TEST(WholeFiles, TakeThePlaceOfTheOldOne) {
     const TempFolder folder;
     const std::string bytes = std::string(100000, 'x') + std::string("\0\r\n\xff", 4);
-    Outcome outcome;
     EXPECT_TRUE(platform::ReplaceWholeFile(folder.Path("new.cfg"), "first"));
     EXPECT_EQ(folder.Read("new.cfg"), "first");
     EXPECT_TRUE(platform::ReplaceWholeFile(folder.Path("NEW.cfg"), bytes));
     const std::ofstream otherProgram(folder.Native("new.cfg"), std::ios::app);
-    EXPECT_EQ(platform::ReadWholeFile(folder.Path("new.cfg"), outcome), bytes);
-    EXPECT_TRUE(outcome);
+    std::string read;
+    EXPECT_TRUE(platform::ReadWholeFile(folder.Path("new.cfg"), read));
+    EXPECT_EQ(read, bytes);
     EXPECT_EQ(folder.Count(), 1);
 
     EXPECT_FALSE(platform::ReplaceWholeFile(folder.Path("none/new.cfg"), "x"));
     EXPECT_FALSE(platform::ReplaceWholeFile(folder.Path(), "x"));
-    EXPECT_EQ(platform::ReadWholeFile(folder.Path("none"), outcome), "");
-    EXPECT_FALSE(outcome);
+    EXPECT_NE(platform::ReadWholeFile(folder.Path("none"), read).reason, "");
+    EXPECT_EQ(read, "");
 }
 
 TEST(WholeFiles, AreCopiedAndRemoved) {

@@ -33,8 +33,8 @@ TEST(PosixFiles, PipesDevicesAndHiddenFilesAreNotOrdinary) {
         EXPECT_TRUE(platform::Exists(folder.Path(name))) << name;
     }
     for (const auto access : {File::Access::Read, File::Access::ReadWrite, File::Access::Create}) {
-        EXPECT_FALSE(File::Open(folder.Path("pipe.wad"), access).IsOpen());
-        EXPECT_FALSE(File::Open("/dev/null", access).IsOpen());
+        EXPECT_FALSE(File().Open(folder.Path("pipe.wad"), access));
+        EXPECT_FALSE(File().Open("/dev/null", access));
     }
     EXPECT_FALSE(platform::ReplaceWholeFile(folder.Path("pipe.wad"), "x"));
     EXPECT_EQ(platform::ListFiles(folder.Path(), "*.wad"), (Strings{"a.wad", "link.wad"}));
@@ -43,7 +43,8 @@ TEST(PosixFiles, PipesDevicesAndHiddenFilesAreNotOrdinary) {
 
 TEST(PosixFiles, AStandInGoesByTheNameAskedForAndStaysToThisProcess) {
     const TempFolder folder;
-    const File game = File::Open(folder.Path("Game"), File::Access::Create);
+    File game;
+    EXPECT_TRUE(game.Open(folder.Path("Game"), File::Access::Create));
     EXPECT_EQ(platform::LookUpFileName(folder.Path("game.EXE")), "game.EXE");
     EXPECT_FALSE(platform::IsOrdinaryFile(folder.Path("game.EXE")));
     EXPECT_NE(fcntl(game.Handle(), F_GETFD) & FD_CLOEXEC, 0) << "open in started programs";
@@ -78,7 +79,9 @@ TEST(PosixFiles, AFullDiskLeavesTheOldFileWholeAndNothingBeside) {
     setrlimit(RLIMIT_FSIZE, &small);
     EXPECT_FALSE(platform::ReplaceWholeFile(old, std::string(10000, 'n')).reason.empty());
     EXPECT_FALSE(platform::CopyWholeFile(big, old));
-    EXPECT_FALSE(File::Open(big, File::Access::ReadWrite).WriteAt(100000, "more"));
+    File grown;
+    EXPECT_TRUE(grown.Open(big, File::Access::ReadWrite));
+    EXPECT_FALSE(grown.WriteAt(100000, "more"));
     setrlimit(RLIMIT_FSIZE, &anySize);
     std::signal(SIGXFSZ, handler);
     EXPECT_EQ(folder.Read("a.cfg"), "old");
@@ -97,7 +100,7 @@ TEST(PosixFiles, WriteProtectionIsKept) {
     }
     fs::permissions(folder.Native("a.cfg"), fs::perms(0444));
     EXPECT_FALSE(platform::ReplaceWholeFile(old, "new"));
-    EXPECT_FALSE(File::Open(old, File::Access::ReadWrite).IsOpen());
+    EXPECT_FALSE(File().Open(old, File::Access::ReadWrite));
     EXPECT_TRUE(platform::IsOrdinaryFile(old));
     fs::permissions(folder.Native("a.cfg"), fs::perms(0644));
     fs::permissions(folder.Native(), fs::perms(0555));

@@ -41,7 +41,7 @@ TEST(WindowsFiles, KeepToTheirAttributes) {
     EXPECT_EQ(folder.Read("a.cfg"), "old");
     EXPECT_EQ(folder.Count(), 1);
     SetFileAttributesW(Wide(path).c_str(), FILE_ATTRIBUTE_NORMAL);
-    EXPECT_FALSE(platform::File::Open("NUL", platform::File::Access::Read).IsOpen());
+    EXPECT_FALSE(platform::File().Open("NUL", platform::File::Access::Read));
 }
 
 TEST(WindowsShell, DoesNotWaitForAProcessThatIsNone) {

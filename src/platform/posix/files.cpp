@@ -26,26 +26,12 @@ int OpenFlags(File::Access access) {
 
 }  // namespace
 
-File File::Open(const std::string& path, Access access, Outcome* outcome) {
-    File file;
-    Descriptor descriptor;
-    const Outcome opened = OpenRegularFile(path, OpenFlags(access), descriptor);
-    file.handle_ = descriptor.Release();
-    if (outcome != nullptr) {
-        *outcome = opened;
-    }
-    return file;
-}
-
-File::File(File&& other) noexcept : handle_(std::exchange(other.handle_, -1)) {}
-
-File& File::operator=(File&& other) noexcept {
-    std::swap(handle_, other.handle_);
-    return *this;
-}
-
-File::~File() {
+Outcome File::Open(const std::string& path, Access access) {
     Close();
+    Descriptor descriptor;
+    Outcome outcome = OpenRegularFile(path, OpenFlags(access), descriptor);
+    handle_ = descriptor.Release();
+    return outcome;
 }
 
 void File::Close() {
@@ -54,9 +40,11 @@ void File::Close() {
     }
 }
 
-std::size_t File::ReadAt(std::int64_t position, void* buffer, std::size_t size) const {
-    std::size_t count = 0;
-    return ReadFully(handle_, position, buffer, size, count) ? count : 0;
+Outcome File::ReadAt(std::int64_t position, void* buffer, std::size_t size,
+                     std::size_t& count) const {
+    Outcome outcome = ReadFully(handle_, position, buffer, size, count);
+    count = outcome ? count : 0;
+    return outcome;
 }
 
 Outcome File::WriteAt(std::int64_t position, std::string_view bytes) {
@@ -72,8 +60,8 @@ std::int64_t File::Size() const {
     return fstat(handle_, &facts) == 0 ? facts.st_size : 0;
 }
 
-bool File::Seek(std::int64_t position) const {
-    return lseek(handle_, position, SEEK_SET) == position;
+Outcome File::Seek(std::int64_t position) const {
+    return lseek(handle_, position, SEEK_SET) == position ? Outcome{} : Failure(errno);
 }
 
 }  // namespace platform

@@ -130,10 +130,10 @@ bool NewFile::Replaces(const Descriptor& file) const {
 
 }  // namespace
 
-std::string ReadWholeFile(const std::string& path, Outcome& outcome) {
+Outcome ReadWholeFile(const std::string& path, std::string& bytes) {
     Descriptor file;
-    outcome = OpenRegularFile(path, O_RDONLY, file);
-    std::string bytes;
+    Outcome outcome = OpenRegularFile(path, O_RDONLY, file);
+    bytes.clear();
     struct stat facts = {};
     if (outcome && fstat(file.Number(), &facts) == 0) {
         bytes.resize(static_cast<std::size_t>(facts.st_size));
@@ -141,7 +141,7 @@ std::string ReadWholeFile(const std::string& path, Outcome& outcome) {
         outcome = ReadFully(file.Number(), 0, bytes.data(), bytes.size(), count);
         bytes.resize(outcome ? count : 0);
     }
-    return bytes;
+    return outcome;
 }
 
 Outcome ReplaceWholeFile(const std::string& path, std::string_view bytes) {

@@ -3,8 +3,6 @@
 #include <fcntl.h>
 #include <io.h>
 
-#include <utility>
-
 #include "platform/win32/file_handles.h"
 #include "platform/win32/text.h"
 
@@ -51,32 +49,24 @@ Outcome OpenRegularFile(const std::string& path, DWORD access, DWORD disposition
     return {};
 }
 
-File File::Open(const std::string& path, Access access, Outcome* outcome) {
+Outcome File::Open(const std::string& path, Access access) {
+    Close();
     const bool toWrite = access != Access::Read;
     OwnedHandle native;
-    const Outcome opened =
+    Outcome outcome =
         OpenRegularFile(path, toWrite ? GENERIC_READ | GENERIC_WRITE : GENERIC_READ,
                         access == Access::Create ? OPEN_ALWAYS : OPEN_EXISTING, native);
-    File file;
-    if (opened) {
-        file.handle_ = _open_osfhandle(reinterpret_cast<std::intptr_t>(native.release()),
-                                       _O_BINARY | _O_NOINHERIT | (toWrite ? _O_RDWR : _O_RDONLY));
+    if (!outcome) {
+        return outcome;
     }
-    if (outcome != nullptr) {
-        *outcome = opened;
+    handle_ = _open_osfhandle(reinterpret_cast<std::intptr_t>(native.get()),
+                              _O_BINARY | _O_NOINHERIT | (toWrite ? _O_RDWR : _O_RDONLY));
+    if (handle_ < 0) {
+        // The C runtime has no descriptor left. The handle is still ours.
+        return {false, ErrorText(ERROR_TOO_MANY_OPEN_FILES)};
     }
-    return file;
-}
-
-File::File(File&& other) noexcept : handle_(std::exchange(other.handle_, -1)) {}
-
-File& File::operator=(File&& other) noexcept {
-    std::swap(handle_, other.handle_);
-    return *this;
-}
-
-File::~File() {
-    Close();
+    static_cast<void>(native.release());
+    return {};
 }
 
 void File::Close() {
@@ -85,19 +75,27 @@ void File::Close() {
     }
 }
 
-std::size_t File::ReadAt(std::int64_t position, void* buffer, std::size_t size) const {
-    std::size_t count = 0;
-    DWORD read = 0;
-    do {
+Outcome File::ReadAt(std::int64_t position, void* buffer, std::size_t size,
+                     std::size_t& count) const {
+    count = 0;
+    if (position < 0) {
+        return {false, ErrorText(ERROR_NEGATIVE_SEEK)};
+    }
+    while (count < size) {
         OVERLAPPED place = At(position + static_cast<std::int64_t>(count));
-        read = 0;
-        if (position < 0 || !::ReadFile(Native(handle_), static_cast<char*>(buffer) + count,
-                                        Piece(size - count), &read, &place)) {
+        DWORD read = 0;
+        const bool done = ::ReadFile(Native(handle_), static_cast<char*>(buffer) + count,
+                                     Piece(size - count), &read, &place) != 0;
+        if (!done && ::GetLastError() != ERROR_HANDLE_EOF) {
+            count = 0;
+            return LastError();
+        }
+        if (!done || read == 0) {
             break;
         }
         count += read;
-    } while (read > 0 && count < size);
-    return count;
+    }
+    return {};
 }
 
 Outcome File::WriteAt(std::int64_t position, std::string_view bytes) {
@@ -122,8 +120,11 @@ std::int64_t File::Size() const {
     return ::GetFileSizeEx(Native(handle_), &size) ? size.QuadPart : 0;
 }
 
-bool File::Seek(std::int64_t position) const {
-    return IsOpen() && _lseeki64(handle_, position, SEEK_SET) == position;
+Outcome File::Seek(std::int64_t position) const {
+    if (!IsOpen() || _lseeki64(handle_, position, SEEK_SET) != position) {
+        return {false, ErrorText(ERROR_SEEK)};
+    }
+    return {};
 }
 
 }  // namespace platform

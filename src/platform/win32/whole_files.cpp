@@ -27,8 +27,8 @@ std::wstring NewName(const std::wstring& target) {
 }
 
 Outcome WriteNewFile(const std::wstring& name, std::string_view bytes) {
-    Outcome outcome;
-    File file = File::Open(Bytes(name), File::Access::Create, &outcome);
+    File file;
+    Outcome outcome = file.Open(Bytes(name), File::Access::Create);
     if (outcome) {
         outcome = file.WriteAt(0, bytes);
     }
@@ -69,11 +69,16 @@ bool AreOneFile(const std::string& left, const std::string& right) {
 
 }  // namespace
 
-std::string ReadWholeFile(const std::string& path, Outcome& outcome) {
-    const File file = File::Open(path, File::Access::Read, &outcome);
-    std::string bytes(static_cast<std::size_t>(file.Size()), '\0');
-    bytes.resize(file.ReadAt(0, bytes.data(), bytes.size()));
-    return bytes;
+Outcome ReadWholeFile(const std::string& path, std::string& bytes) {
+    File file;
+    Outcome outcome = file.Open(path, File::Access::Read);
+    std::size_t count = 0;
+    if (outcome) {
+        bytes.resize(static_cast<std::size_t>(file.Size()));
+        outcome = file.ReadAt(0, bytes.data(), bytes.size(), count);
+    }
+    bytes.resize(count);
+    return outcome;
 }
 
 Outcome ReplaceWholeFile(const std::string& path, std::string_view bytes) {
@@ -93,8 +98,8 @@ Outcome ReplaceWholeFile(const std::string& path, std::string_view bytes) {
 }
 
 Outcome CopyWholeFile(const std::string& from, const std::string& to) {
-    Outcome outcome;
-    const std::string bytes = ReadWholeFile(from, outcome);
+    std::string bytes;
+    Outcome outcome = ReadWholeFile(from, bytes);
     if (outcome && AreOneFile(from, to)) {
         return {false, "The source and the target are the same file"};
     }
