@@ -1,4 +1,4 @@
-// BUTTON drawn by us: the one button of a window that is in the colour of the program.
+// Owner-drawn BUTTON: a button in the color of the program.
 #include "platform/win32/text.h"
 #include "toolkit/win32/controls.h"
 #include "toolkit/win32/native_window.h"
@@ -35,14 +35,14 @@ class AccentButton : public NativeControl {
   private:
     static LRESULT CALLBACK Procedure(HWND handle, UINT message, WPARAM wParam, LPARAM lParam,
                                       UINT_PTR id, DWORD_PTR self);
-    COLORREF Surface(UINT state) const;
+    COLORREF SurfaceColor(UINT state) const;
     void SetHot(bool hot);
 
     toolkit::Button& button_;
     bool hot_ = false;
 };
 
-COLORREF AccentButton::Surface(UINT state) const {
+COLORREF AccentButton::SurfaceColor(UINT state) const {
     if (IsHighContrast()) {
         return ::GetSysColor(COLOR_HIGHLIGHT);
     }
@@ -56,8 +56,8 @@ COLORREF AccentButton::Surface(UINT state) const {
 }
 
 void AccentButton::DrawItem(const DRAWITEMSTRUCT& item) {
-    const int round = Sizes().Scaled(6);
-    const COLORREF surface = Surface(item.itemState);
+    const int round = GetMetrics().Scaled(6);
+    const COLORREF surface = SurfaceColor(item.itemState);
     const OwnedBrush brush(::CreateSolidBrush(surface));
     const OwnedPen pen(::CreatePen(PS_SOLID, 1, surface));
     const Chosen brushChosen(item.hDC, brush.get());
@@ -74,14 +74,14 @@ void AccentButton::DrawItem(const DRAWITEMSTRUCT& item) {
     ::DrawTextW(item.hDC, text.data(), static_cast<int>(text.size()), &place,
                 DT_CENTER | DT_VCENTER | DT_SINGLELINE | DT_NOPREFIX);
     if ((item.itemState & ODS_FOCUS) != 0 && (item.itemState & ODS_NOFOCUSRECT) == 0) {
-        const int margin = Sizes().Scaled(3);
+        const int margin = GetMetrics().Scaled(3);
         ::InflateRect(&place, -margin, -margin);
         ::DrawFocusRect(item.hDC, &place);
     }
 }
 
 void AccentButton::OnCommand(WORD code) {
-    // The second press of two quick ones comes as a double click to a button that is drawn by us.
+    // Only owner-drawn buttons report the second of two quick clicks as a double click.
     if (code == BN_CLICKED || code == BN_DOUBLECLICKED) {
         button_.UserClicks();
     }

@@ -12,7 +12,7 @@ struct Source {
     int height = 0;
 };
 
-/// The picture in single or in double size, whichever is nearer to what is wanted.
+/// Loads the picture in single or double size, whichever is closer to the height.
 Source LoadSource(int height) {
     constexpr int SingleHeight = 74;
     const wchar_t* name = height > SingleHeight * 5 / 4 ? L"title2" : L"title";
@@ -28,7 +28,7 @@ Source LoadSource(int height) {
 
 }  // namespace
 
-void Band::Lay(const toolkit::Window& window, const Metrics& metrics) {
+void Band::Layout(const toolkit::Window& window, const Metrics& metrics) {
     for (const toolkit::Control* control : window.Controls()) {
         if (control->Spec().picture == BandPicture) {
             place_ = metrics.Pixels(control->Spec().place);
@@ -54,7 +54,7 @@ void Band::Draw() {
     brush_.reset(::CreatePatternBrush(bitmap_.get()));
 }
 
-HBRUSH Band::Beneath(HWND control, HDC context) {
+HBRUSH Band::BackgroundBrush(HWND control, HDC context) {
     if (!brush_) {
         Draw();
     }

@@ -9,17 +9,18 @@ class Window;
 
 namespace desktop {
 
-/// Name of the picture that is the band.
+/// The picture with this name is the band.
 inline constexpr char BandPicture[] = "title";
 
-/// Draws the band once for a density, when it is first asked for; what stands on it takes its own
-/// background from there.
+/// Draws the band once per resolution, when it is first needed. Controls on it paint their
+/// background with a part of it.
 class Band {
   public:
-    /// Makes the picture fit the window's row for the band, if it has one.
-    void Lay(const toolkit::Window& window, const Metrics& metrics);
-    /// A brush that gives `control` what of the band lies beneath it, in a context of the control.
-    HBRUSH Beneath(HWND control, HDC context);
+    /// Fits the band to its picture control, if the window has one.
+    void Layout(const toolkit::Window& window, const Metrics& metrics);
+    /// Returns a brush with the part of the band under `control`, for a device context of the
+    /// control.
+    HBRUSH BackgroundBrush(HWND control, HDC context);
 
   private:
     void Draw();

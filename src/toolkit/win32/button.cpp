@@ -15,7 +15,7 @@ class NativeButton : public NativeControl {
     bool IsPushButton() const override { return true; }
 
   protected:
-    void OnLaid() override;
+    void OnLayout() override;
     void OnCommand(WORD code) override;
     std::wstring CaptionText() const override;
 
@@ -29,10 +29,10 @@ class NativeButton : public NativeControl {
     OwnedIcon icon_;
 };
 
-void NativeButton::OnLaid() {
+void NativeButton::OnLayout() {
     if (!button_.Spec().picture.empty()) {
         constexpr int Size = 16;
-        OwnedIcon icon = LoadPicture(button_.Spec().picture, Sizes().Scaled(Size));
+        OwnedIcon icon = LoadPicture(button_.Spec().picture, GetMetrics().Scaled(Size));
         Send(BM_SETIMAGE, IMAGE_ICON, reinterpret_cast<LPARAM>(icon.get()));
         icon_ = std::move(icon);
     }
@@ -45,9 +45,9 @@ void NativeButton::OnCommand(WORD code) {
 }
 
 std::wstring NativeButton::CaptionText() const {
-    // Under a picture the text is not seen but spoken.
+    // The text of a button with a picture is not shown, but screen readers read it.
     return button_.Caption().empty() ? platform::Wide(button_.Spec().accessibleName)
-                                     : WithoutMnemonics(button_.Caption());
+                                     : EscapeAmpersands(button_.Caption());
 }
 
 }  // namespace

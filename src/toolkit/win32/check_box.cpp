@@ -16,17 +16,17 @@ class NativeCheckBox : public NativeControl {
         }
     }
 
-    void OnDraw(Property property, int row) override {
+    void OnPropertyChanged(Property property, int row) override {
         if (property == Property::Checked) {
             Send(BM_SETCHECK, box_.Checked() ? BST_CHECKED : BST_UNCHECKED);
         } else {
-            NativeControl::OnDraw(property, row);
+            NativeControl::OnPropertyChanged(property, row);
         }
     }
 
-    void OnCreated() override { OnDraw(Property::Checked, -1); }
+    void OnCreated() override { OnPropertyChanged(Property::Checked, -1); }
 
-    std::wstring CaptionText() const override { return WithoutMnemonics(box_.Caption()); }
+    std::wstring CaptionText() const override { return EscapeAmpersands(box_.Caption()); }
 
   private:
     toolkit::CheckBox& box_;

@@ -1,4 +1,4 @@
-// COMBOBOX: a list that drops down, without and with an edit field.
+// COMBOBOX: a drop-down list, with or without an edit field.
 #include "platform/win32/text.h"
 #include "toolkit/win32/controls.h"
 
@@ -13,9 +13,9 @@ class NativeCombo : public NativeControl {
 
   protected:
     void OnCommand(WORD code) override;
-    void OnDraw(Property property, int row) override;
+    void OnPropertyChanged(Property property, int row) override;
     void OnCreated() override;
-    void OnLaid() override;
+    void OnLayout() override;
     RECT Place() const override;
 
   private:
@@ -23,8 +23,8 @@ class NativeCombo : public NativeControl {
 };
 
 void NativeCombo::OnCommand(WORD code) {
-    // A list that drops down selects the row of the text in the field without a word: choosing that
-    // row is no change to Windows.
+    // An opened list silently selects the row with the text of the field. If the user chooses that
+    // row, Windows does not report a change, so also check when the list closes.
     if (code == CBN_SELCHANGE || code == CBN_SELENDOK) {
         const auto row = static_cast<int>(Send(CB_GETCURSEL));
         if (row != list_.ListIndex()) {
@@ -33,9 +33,9 @@ void NativeCombo::OnCommand(WORD code) {
     }
 }
 
-void NativeCombo::OnDraw(Property property, int row) {
+void NativeCombo::OnPropertyChanged(Property property, int row) {
     switch (property) {
-        case Property::Caption:  // for this control the text of its edit field
+        case Property::Caption:  // would set the text of the edit field
             break;
         case Property::ItemAdded:
             SendText(CB_INSERTSTRING, static_cast<WPARAM>(row), list_.List(row));
@@ -50,35 +50,35 @@ void NativeCombo::OnDraw(Property property, int row) {
             Send(CB_SETCURSEL, static_cast<WPARAM>(list_.ListIndex()));
             break;
         default:
-            NativeControl::OnDraw(property, row);
+            NativeControl::OnPropertyChanged(property, row);
     }
 }
 
 void NativeCombo::OnCreated() {
-    Send(WM_SETREDRAW, FALSE);  // else its scroll bar follows each row
+    Send(WM_SETREDRAW, FALSE);  // otherwise each row updates the scroll bar
     for (int row = 0; row < list_.ListCount(); ++row) {
-        OnDraw(Property::ItemAdded, row);
+        OnPropertyChanged(Property::ItemAdded, row);
     }
     Send(WM_SETREDRAW, TRUE);
     if (list_.ListIndex() >= 0) {
-        OnDraw(Property::Selection, -1);
+        OnPropertyChanged(Property::Selection, -1);
     }
 }
 
 RECT NativeCombo::Place() const {
-    // The height of a combo box is that with its list; closed, its font makes it as high as it is.
-    RECT place = InMiddle(NativeControl::Place(), Sizes().FieldHeight());
+    // The height includes the open list. The height of the closed box follows from its font.
+    RECT place = WithHeight(NativeControl::Place(), GetMetrics().FieldHeight());
     constexpr int RowsShown = 12;
-    place.bottom += RowsShown * Sizes().FieldHeight();
+    place.bottom += RowsShown * GetMetrics().FieldHeight();
     return place;
 }
 
-void NativeCombo::OnLaid() {
+void NativeCombo::OnLayout() {
     RECT closed = {};
     ::GetWindowRect(Handle(), &closed);
     const int height = static_cast<int>(closed.bottom - closed.top);
-    if (height != Sizes().FieldHeight()) {
-        const RECT place = InMiddle(NativeControl::Place(), height);
+    if (height != GetMetrics().FieldHeight()) {
+        const RECT place = WithHeight(NativeControl::Place(), height);
         ::SetWindowPos(Handle(), nullptr, place.left, place.top, 0, 0,
                        SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
     }
@@ -98,17 +98,17 @@ class NativeEditCombo : public NativeCombo {
         }
     }
 
-    void OnDraw(Property property, int row) override {
+    void OnPropertyChanged(Property property, int row) override {
         if (property == Property::Text) {
             ::SetWindowTextW(Handle(), platform::Wide(box_.Text()).c_str());
         } else {
-            NativeCombo::OnDraw(property, row);
+            NativeCombo::OnPropertyChanged(property, row);
         }
     }
 
     void OnCreated() override {
         NativeCombo::OnCreated();
-        OnDraw(Property::Text, -1);
+        OnPropertyChanged(Property::Text, -1);
     }
 
   private:

@@ -85,7 +85,7 @@ std::vector<toolkit::Control*> InStackingOrder(const toolkit::Window& window) {
     return controls;
 }
 
-std::wstring WithoutMnemonics(const std::string& caption) {
+std::wstring EscapeAmpersands(const std::string& caption) {
     return platform::Wide(ReplaceAll(caption, "&", "&&"));
 }
 

@@ -1,4 +1,4 @@
-// The kinds of controls, each made by the file of its name.
+// Creates the native control of each kind of control, in the file of the same name.
 #pragma once
 
 #include <memory>
@@ -9,12 +9,12 @@
 
 namespace desktop {
 
-/// The native control for one of the toolkit, of whatever kind.
+/// Creates the native control of any kind of control.
 std::unique_ptr<NativeControl> MakeControl(NativeWindow& parent, toolkit::Control& control);
 
 std::unique_ptr<NativeControl> MakeLabel(NativeWindow& parent, toolkit::Label& label);
 std::unique_ptr<NativeControl> MakeButton(NativeWindow& parent, toolkit::Button& button);
-/// A button in the colour of the program.
+/// A button in the color of the program.
 std::unique_ptr<NativeControl> MakeAccentButton(NativeWindow& parent, toolkit::Button& button);
 std::unique_ptr<NativeControl> MakeCheckBox(NativeWindow& parent, toolkit::CheckBox& box);
 std::unique_ptr<NativeControl> MakeTextBox(NativeWindow& parent, toolkit::TextBox& box);
@@ -26,15 +26,15 @@ std::unique_ptr<NativeControl> MakeFrame(NativeWindow& parent, toolkit::Control&
 std::unique_ptr<NativeControl> MakeDivider(NativeWindow& parent, toolkit::Control& divider);
 std::unique_ptr<NativeControl> MakePicture(NativeWindow& parent, toolkit::Control& picture);
 
-/// Whether the Tab key stops at a control: what only shows is passed over.
+/// Whether the Tab key stops at a control.
 bool IsInTabOrder(const toolkit::Control& control);
 
-/// A window's controls from the front to the back, which is the order of the Tab key as well: first
-/// those that it reaches, each behind the label that names it to a screen reader, then the others,
-/// of which a later row of the table covers an earlier one, with the frames at the back.
+/// Returns a window's controls in z-order from front to back, which is also the tab order: first
+/// those that the Tab key reaches, each after the label that names it to screen readers; then the
+/// others, of which a later declared one covers an earlier one; the frames are last.
 std::vector<toolkit::Control*> InStackingOrder(const toolkit::Window& window);
 
-/// A caption in which `&` stands for itself and marks no key.
-std::wstring WithoutMnemonics(const std::string& caption);
+/// Converts a caption, doubling each "&": Windows takes a single one for the mark of an access key.
+std::wstring EscapeAmpersands(const std::string& caption);
 
 }  // namespace desktop

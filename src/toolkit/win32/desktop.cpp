@@ -24,7 +24,7 @@ void UnloadWindow(toolkit::Window& window) {
 void ShowWindow(toolkit::Window& window) {
     if (NativeWindow* native = EnsureNative(window)) {
         native->Centre();
-        PutOnTop(*native);
+        PushWindow(*native);
         ::ShowWindow(native->Handle(), SW_SHOWNORMAL);
         ::UpdateWindow(native->Handle());
     }
@@ -32,8 +32,8 @@ void ShowWindow(toolkit::Window& window) {
 
 void HideWindow(toolkit::Window& window) {
     if (NativeWindow* native = FindNative(window)) {
-        TakeOff(*native);
-        // Before the window goes: Windows gives the focus to one that takes input.
+        RemoveWindow(*native);
+        // Before the window is hidden, because Windows then activates an enabled window.
         if (const HWND owner = ::GetWindow(native->Handle(), GW_OWNER)) {
             ::EnableWindow(owner, TRUE);
         }
@@ -46,12 +46,12 @@ void RunModal(toolkit::Window& window) {
     if (native == nullptr) {
         return;
     }
-    const HWND owner = Topmost();
+    const HWND owner = FrontWindow();
     ::SetWindowLongPtrW(native->Handle(), GWLP_HWNDPARENT, reinterpret_cast<LONG_PTR>(owner));
     native->Centre();
-    native->ForgetFocus();
+    native->ResetFocus();
     ::EnableWindow(owner, FALSE);
-    PutOnTop(*native);
+    PushWindow(*native);
     ::ShowWindow(native->Handle(), SW_SHOWNORMAL);
     RunMessages([&window] { return window.Visible(); });
 }
@@ -83,7 +83,7 @@ std::uint32_t ItemFromPoint(const toolkit::ListBox& list, int x, int y) {
     }
     const auto answer = static_cast<std::uint32_t>(
         ::SendMessageA(native->Handle(), LB_ITEMFROMPOINT, 0, MAKELPARAM(x, y)));
-    // For a point below the last row Windows names that row; the row itself knows better.
+    // Windows returns the last row for a point below it, so compare with the rectangle of that row.
     RECT place = {};
     ::SendMessageW(native->Handle(), LB_GETITEMRECT, LOWORD(answer),
                    reinterpret_cast<LPARAM>(&place));

@@ -7,54 +7,55 @@
 namespace desktop {
 namespace {
 
-double Across(const MSG& message) {
+double HorizontalPosition(const MSG& message) {
     return static_cast<short>(LOWORD(message.lParam));
 }
 
-double Down(const MSG& message) {
+double VerticalPosition(const MSG& message) {
     return static_cast<short>(HIWORD(message.lParam));
 }
 
-/// Tells a control of the pointer when the native one has acted on the message: a click has
-/// selected its row by then. From here no control has to be watched by itself.
-void TellOfPointer(const MSG& message) {
+/// Reports pointer messages to the control, after the native control has processed them: by then a
+/// click has selected its row. This saves subclassing every control.
+void ReportPointer(const MSG& message) {
     const NativeControl* native = FindNative(message.hwnd);
     if (native == nullptr) {
         return;
     }
-    toolkit::Control& control = native->Shown();
+    toolkit::Control& control = native->GetControl();
     if (message.message == WM_MOUSEMOVE) {
-        control.UserMovesPointer(Across(message), Down(message));
+        control.UserMovesPointer(HorizontalPosition(message), VerticalPosition(message));
     } else if (message.message == WM_LBUTTONUP || message.message == WM_RBUTTONUP) {
         if (auto* list = dynamic_cast<toolkit::ListBox*>(&control)) {
             const auto button = message.message == WM_LBUTTONUP ? toolkit::MouseButton::Left
                                                                 : toolkit::MouseButton::Right;
-            list->UserReleasesButton(button, Across(message), Down(message));
+            list->UserReleasesButton(button, HorizontalPosition(message),
+                                     VerticalPosition(message));
         }
     }
 }
 
-void HandOut(MSG& message) {
+void Dispatch(MSG& message) {
     const HWND window = message.hwnd != nullptr ? ::GetAncestor(message.hwnd, GA_ROOT) : nullptr;
     if (window == nullptr || !::IsDialogMessageW(window, &message)) {
         ::TranslateMessage(&message);
         ::DispatchMessageW(&message);
     }
     if (message.message >= WM_MOUSEFIRST && message.message <= WM_MOUSELAST) {
-        TellOfPointer(message);
+        ReportPointer(message);
     }
 }
 
 }  // namespace
 
-int RunMessages(const std::function<bool()>& goOn) {
+int RunMessages(const std::function<bool()>& isRunning) {
     MSG message = {};
-    while (goOn()) {
+    while (isRunning()) {
         if (::GetMessageW(&message, nullptr, 0, 0) <= 0) {
-            ::PostQuitMessage(static_cast<int>(message.wParam));  // for the loops around this one
+            ::PostQuitMessage(static_cast<int>(message.wParam));  // for the outer loops
             return static_cast<int>(message.wParam);
         }
-        HandOut(message);
+        Dispatch(message);
     }
     return 0;
 }
@@ -66,7 +67,7 @@ void DoEvents() {
             ::PostQuitMessage(static_cast<int>(message.wParam));
             return;
         }
-        HandOut(message);
+        Dispatch(message);
     }
 }
 

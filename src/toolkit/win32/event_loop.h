@@ -1,12 +1,12 @@
-// Getting and handing out messages, with the keys of dialogs in every window of ours.
+// The message loop, with keyboard navigation as in dialogs.
 #pragma once
 
 #include <functional>
 
 namespace desktop {
 
-/// Waits for messages and hands them out for as long as `goOn` says, asked after each one. Gives
-/// the exit code when the process is told to end.
-int RunMessages(const std::function<bool()>& goOn);
+/// Waits for messages and dispatches them while `isRunning` returns true, which is called before
+/// each one. Returns the exit code if WM_QUIT arrives, otherwise 0.
+int RunMessages(const std::function<bool()>& isRunning);
 
 }  // namespace desktop

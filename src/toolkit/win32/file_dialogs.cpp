@@ -8,7 +8,7 @@
 namespace desktop {
 namespace {
 
-/// The record without the members that Windows 2000 added.
+/// Size of the record without the members that Windows 2000 added.
 constexpr DWORD RecordSize = offsetof(OPENFILENAMEA, lpTemplateName) + sizeof(LPCSTR);
 static_assert(sizeof(void*) != 4 || RecordSize == 76);
 
@@ -24,7 +24,7 @@ HWND HandleOf(const toolkit::Window* window) {
     return native != nullptr ? native->Handle() : nullptr;
 }
 
-/// Runs one of the two dialogs of Windows, whose records are alike.
+/// Runs one of the two file dialogs of Windows.
 bool Run(Dialog dialog, OpenFileName& record) {
     const std::string filter = record.lpstrFilter + std::string(2, '\0');
     std::string file = record.lpstrFile;
@@ -39,7 +39,7 @@ bool Run(Dialog dialog, OpenFileName& record) {
     native.lpstrInitialDir = record.lpstrInitialDir.c_str();
     native.lpstrTitle = record.lpstrTitle.c_str();
     native.Flags = record.Flags;
-    // A name that leaves no room for the second NUL is too long, although Windows lets it pass.
+    // Windows accepts a result without room for the second NUL; here it is too long.
     const bool confirmed =
         dialog(&native) && file.find(std::string_view("\0\0", 2)) != std::string::npos;
     if (confirmed) {

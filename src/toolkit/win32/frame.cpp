@@ -1,4 +1,4 @@
-// What groups other controls: BUTTON as a group box, STATIC as a line.
+// BUTTON as a group box, and STATIC as a divider line.
 #include "toolkit/win32/controls.h"
 
 namespace desktop {
@@ -7,13 +7,13 @@ namespace {
 class NativeFrame : public NativeControl {
   public:
     NativeFrame(NativeWindow& parent, toolkit::Control& frame)
-        // It draws its edge alone; being transparent, it leaves the rest to the window beneath.
+        // Transparent, because a group box draws only its edge.
         : NativeControl(
               parent, frame,
               {WC_BUTTONW, BS_GROUPBOX | WS_CLIPSIBLINGS, WS_EX_TRANSPARENT, Face::Bold}) {}
 
   protected:
-    std::wstring CaptionText() const override { return WithoutMnemonics(Shown().Caption()); }
+    std::wstring CaptionText() const override { return EscapeAmpersands(GetControl().Caption()); }
 };
 
 }  // namespace

@@ -1,4 +1,4 @@
-// STATIC: a label, on the window or on the title band, perhaps a link.
+// STATIC: a label, on the window or on the title band.
 #include "toolkit/win32/controls.h"
 #include "toolkit/win32/native_window.h"
 
@@ -58,12 +58,12 @@ class NativeLabel : public NativeControl {
         : NativeControl(parent, label, {WC_STATICW, StyleOf(label), 0, FaceOf(label)}),
           label_(label) {}
 
-    HBRUSH Colours(HDC context) override;
+    HBRUSH Colors(HDC context) override;
     HCURSOR Pointer() const override;
 
   protected:
     void OnCommand(WORD code) override;
-    void OnDraw(Property property, int row) override;
+    void OnPropertyChanged(Property property, int row) override;
     RECT Place() const override;
 
   private:
@@ -74,7 +74,7 @@ class NativeLabel : public NativeControl {
 };
 
 DWORD NativeLabel::StyleOf(const toolkit::Label& label) {
-    // With SS_NOTIFY the pointer over a label is not over the window beneath.
+    // Without SS_NOTIFY, movements over a label go to the window.
     constexpr DWORD Common = SS_NOPREFIX | SS_NOTIFY;
     constexpr int TwoLines = 16;
     const bool isOneLine = label.Spec().place.height < TwoLines || label.Has(toolkit::Title);
@@ -84,23 +84,24 @@ DWORD NativeLabel::StyleOf(const toolkit::Label& label) {
     if (label.Has(toolkit::Small)) {
         return Common | SS_RIGHT;
     }
-    return Common | (isOneLine ? SS_CENTERIMAGE : SS_EDITCONTROL);  // the latter breaks long words
+    return Common |
+           (isOneLine ? SS_CENTERIMAGE : SS_EDITCONTROL);  // SS_EDITCONTROL breaks long words
 }
 
 RECT NativeLabel::Place() const {
     RECT place = NativeControl::Place();
     if (FitsItsText(label_)) {
-        place.left = TextStart(label_, Sizes());
-        place.right = place.left + Sizes().TextWidth(FaceOf(label_), label_.Caption());
+        place.left = TextStart(label_, GetMetrics());
+        place.right = place.left + GetMetrics().TextWidth(FaceOf(label_), label_.Caption());
     }
     return place;
 }
 
-HBRUSH NativeLabel::Colours(HDC context) {
+HBRUSH NativeLabel::Colors(HDC context) {
     if (IsOnBand()) {
         ::SetTextColor(context, label_.Has(toolkit::Title) ? OnBand : OnBandSmall);
         ::SetBkMode(context, TRANSPARENT);
-        return Parent().TitleBand().Beneath(Handle(), context);
+        return Parent().TitleBand().BackgroundBrush(Handle(), context);
     }
     if (label_.Has(toolkit::Link)) {
         ::SetTextColor(context, LinkText);
@@ -116,8 +117,8 @@ void NativeLabel::OnCommand(WORD code) {
     }
 }
 
-void NativeLabel::OnDraw(Property property, int row) {
-    NativeControl::OnDraw(property, row);
+void NativeLabel::OnPropertyChanged(Property property, int row) {
+    NativeControl::OnPropertyChanged(property, row);
     if (property == Property::Caption && IsOnBand()) {
         ::InvalidateRect(Handle(), nullptr, TRUE);
     }

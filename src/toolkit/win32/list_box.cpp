@@ -16,19 +16,19 @@ class NativeListBox : public NativeControl {
 
   protected:
     void OnCommand(WORD code) override;
-    void OnDraw(Property property, int row) override;
+    void OnPropertyChanged(Property property, int row) override;
     void OnCreated() override;
-    void OnLaid() override;
+    void OnLayout() override;
 
   private:
-    void Widen(int row);
+    void IncludeWidthOf(int row);
 
     toolkit::ListBox& list_;
-    int widest_ = 0;  // pixels that the longest text takes
+    int widest_ = 0;  // width of the longest text, in pixels
 };
 
 void NativeListBox::OnCommand(WORD code) {
-    // A click on the row that was selected already comes as a selection that was given up.
+    // Windows reports a click on the selected row as a cancelled selection.
     if (code == LBN_SELCHANGE || code == LBN_SELCANCEL) {
         const auto row = static_cast<int>(Send(LB_GETCURSEL));
         if (row >= 0) {
@@ -39,11 +39,11 @@ void NativeListBox::OnCommand(WORD code) {
     }
 }
 
-void NativeListBox::OnDraw(Property property, int row) {
+void NativeListBox::OnPropertyChanged(Property property, int row) {
     switch (property) {
         case Property::ItemAdded:
             SendText(LB_INSERTSTRING, static_cast<WPARAM>(row), list_.List(row));
-            Widen(row);
+            IncludeWidthOf(row);
             break;
         case Property::ItemRemoved:
             Send(LB_DELETESTRING, static_cast<WPARAM>(row));
@@ -57,7 +57,7 @@ void NativeListBox::OnDraw(Property property, int row) {
             Send(LB_SETCURSEL, static_cast<WPARAM>(list_.ListIndex()));
             break;
         default:
-            NativeControl::OnDraw(property, row);
+            NativeControl::OnPropertyChanged(property, row);
     }
 }
 
@@ -65,11 +65,11 @@ void NativeListBox::OnCreated() {
     for (int row = 0; row < list_.ListCount(); ++row) {
         SendText(LB_INSERTSTRING, static_cast<WPARAM>(row), list_.List(row));
     }
-    OnDraw(Property::Selection, -1);
+    OnPropertyChanged(Property::Selection, -1);
 }
 
-void NativeListBox::Widen(int row) {
-    const int width = Sizes().TextWidth(Face::Body, list_.List(row));
+void NativeListBox::IncludeWidthOf(int row) {
+    const int width = GetMetrics().TextWidth(Face::Body, list_.List(row));
     constexpr int Margin = 8;
     if (width + Margin > widest_) {
         widest_ = width + Margin;
@@ -77,10 +77,10 @@ void NativeListBox::Widen(int row) {
     }
 }
 
-void NativeListBox::OnLaid() {
+void NativeListBox::OnLayout() {
     widest_ = 0;
     for (int row = 0; row < list_.ListCount(); ++row) {
-        Widen(row);
+        IncludeWidthOf(row);
     }
 }
 

@@ -1,4 +1,4 @@
-// SysListView32: rows of two columns.
+// SysListView32: a list of two columns.
 #include "platform/win32/text.h"
 #include "toolkit/win32/controls.h"
 
@@ -11,10 +11,12 @@ class NativeListView : public NativeControl {
 
   protected:
     LRESULT OnNotify(const NMHDR& notice) override;
-    void OnDraw(Property property, int row) override;
+    void OnPropertyChanged(Property property, int row) override;
     void OnCreated() override;
-    void OnLaid() override;
-    std::wstring CaptionText() const override { return {}; }  // its caption has the columns' heads
+    void OnLayout() override;
+    std::wstring CaptionText() const override {
+        return {};
+    }  // the caption contains the column heads
 
   private:
     void MakeColumns();
@@ -46,7 +48,7 @@ void NativeListView::MakeColumns() {
     }
 }
 
-void NativeListView::OnLaid() {
+void NativeListView::OnLayout() {
     RECT inside = {};
     ::GetClientRect(Handle(), &inside);
     const int width = inside.right - ::GetSystemMetrics(SM_CXVSCROLL);
@@ -69,9 +71,9 @@ LRESULT NativeListView::OnNotify(const NMHDR& notice) {
     return 0;
 }
 
-void NativeListView::OnDraw(Property property, int row) {
+void NativeListView::OnPropertyChanged(Property property, int row) {
     switch (property) {
-        case Property::Caption:  // the heads of the columns stay
+        case Property::Caption:  // the column heads are fixed
             break;
         case Property::ItemAdded:
             Insert(row);
@@ -83,7 +85,7 @@ void NativeListView::OnDraw(Property property, int row) {
             DrawSelection();
             break;
         default:
-            NativeControl::OnDraw(property, row);
+            NativeControl::OnPropertyChanged(property, row);
     }
 }
 

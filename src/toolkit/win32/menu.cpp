@@ -15,7 +15,7 @@ void ShowPopupMenu(toolkit::Window& window, toolkit::PopupMenu& menu) {
     const auto& items = menu.Items();
     for (std::size_t i = 0; i < items.size(); ++i) {
         ::AppendMenuW(popup.get(), items[i]->Enabled() ? MF_STRING : MF_STRING | MF_GRAYED, i + 1,
-                      WithoutMnemonics(items[i]->Caption()).c_str());
+                      EscapeAmpersands(items[i]->Caption()).c_str());
     }
     POINT pointer = {};
     ::GetCursorPos(&pointer);

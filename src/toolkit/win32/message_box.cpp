@@ -5,7 +5,7 @@
 namespace desktop {
 
 void ShowMessage(const std::string& text, const std::string& title, MessageIcon icon) {
-    ::MessageBoxW(Topmost(), platform::Wide(text).c_str(), platform::Wide(title).c_str(),
+    ::MessageBoxW(FrontWindow(), platform::Wide(text).c_str(), platform::Wide(title).c_str(),
                   MB_OK | MB_TASKMODAL | static_cast<UINT>(icon));
 }
 

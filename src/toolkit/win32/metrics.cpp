@@ -17,21 +17,21 @@ OwnedFont MakeFont(LOGFONTW description, int percent, bool bold, bool underlined
 
 }  // namespace
 
-int FirstScreensDensity() {
+int SystemDpi() {
     const WindowContext screen(nullptr);
     return ::GetDeviceCaps(screen.Get(), LOGPIXELSX);
 }
 
-int DensityOf(HWND window) {
-    // Only Windows 10 and later has it.
+int DpiOf(HWND window) {
+    // GetDpiForWindow exists since Windows 10 1607.
     using Service = UINT(WINAPI*)(HWND);
     static const auto service = reinterpret_cast<Service>(reinterpret_cast<void*>(
         ::GetProcAddress(::GetModuleHandleW(L"user32"), "GetDpiForWindow")));
-    const int density = service != nullptr ? static_cast<int>(service(window)) : 0;
-    return density > 0 ? density : FirstScreensDensity();
+    const int dpi = service != nullptr ? static_cast<int>(service(window)) : 0;
+    return dpi > 0 ? dpi : SystemDpi();
 }
 
-Metrics::Metrics(int density) : density_(density) {
+Metrics::Metrics(int dpi) : dpi_(dpi) {
     MakeFonts();
     Measure();
 }
@@ -41,7 +41,7 @@ void Metrics::MakeFonts() {
     system.cbSize = sizeof system;
     ::SystemParametersInfoW(SPI_GETNONCLIENTMETRICS, system.cbSize, &system, 0);
     LOGFONTW body = system.lfMessageFont;
-    body.lfHeight = ::MulDiv(body.lfHeight, density_, FirstScreensDensity());
+    body.lfHeight = ::MulDiv(body.lfHeight, dpi_, SystemDpi());
     const struct {
         Face face;
         int percent;

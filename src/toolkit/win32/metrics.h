@@ -1,4 +1,4 @@
-// Sizes and fonts of a window at the density of its screen.
+// Sizes and fonts of a window at the resolution of its monitor.
 #pragma once
 
 #include <array>
@@ -9,37 +9,37 @@
 
 namespace desktop {
 
-/// The faces of the desktop's message font.
+/// Variants of the system's message font.
 enum class Face { Body, Bold, Title, Small, Link };
 
-/// Dots per inch of the first screen.
-int FirstScreensDensity();
-/// Dots per inch of the screen that a window is on; the first screen's on an old Windows.
-int DensityOf(HWND window);
+/// Dots per inch of the primary monitor.
+int SystemDpi();
+/// Dots per inch of the monitor of a window; on a Windows before 10, of the primary monitor.
+int DpiOf(HWND window);
 
-/// Everything that depends on the density.
+/// Everything that depends on the resolution.
 class Metrics {
   public:
-    explicit Metrics(int density);
+    explicit Metrics(int dpi);
 
-    int Density() const { return density_; }
+    int Dpi() const { return dpi_; }
     HFONT Font(Face face) const { return fonts_[static_cast<std::size_t>(face)].get(); }
-    /// Dialog units as pixels.
+    /// Converts a rectangle from dialog units to pixels.
     RECT Pixels(const toolkit::Place& place) const;
-    /// Pixels that a text takes across.
+    /// Width of a text in pixels.
     int TextWidth(Face face, const std::string& text) const;
-    /// Height of a field that holds a line of text, with its border.
+    /// Height of a field with one line of text, including its border.
     int FieldHeight() const { return characterHeight_ + Scaled(8); }
-    /// Pixels of a screen of 96 dots per inch as pixels of this one.
-    int Scaled(int pixels) const { return ::MulDiv(pixels, density_, 96); }
+    /// Converts pixels at 96 dots per inch to pixels at this resolution.
+    int Scaled(int pixels) const { return ::MulDiv(pixels, dpi_, 96); }
 
   private:
     void MakeFonts();
     void Measure();
 
-    int density_;
+    int dpi_;
     std::array<OwnedFont, 5> fonts_;
-    // Four and eight times a unit: the average width and the height of a character.
+    // The average width is four dialog units, the height eight.
     int characterWidth_ = 0;
     int characterHeight_ = 0;
 };

@@ -9,7 +9,7 @@
 namespace desktop {
 namespace {
 
-/// Counts a level of drawing for as long as it lives.
+/// Increments a counter while it exists.
 class Level {
   public:
     explicit Level(int& depth) : depth_(depth) { ++depth_; }
@@ -29,46 +29,46 @@ DWORD NativeControl::Style() const {
 }
 
 void NativeControl::Create() {
-    const Level level(drawing_);
+    const Level level(applying_);
     const RECT place = Place();
     const auto id = static_cast<INT_PTR>(ControlId(control_));
     handle_ = ::CreateWindowExW(class_.extendedStyle, class_.name, CaptionText().c_str(), Style(),
                                 place.left, place.top, place.right - place.left,
                                 place.bottom - place.top, parent_.Handle(),
                                 reinterpret_cast<HMENU>(id), ::GetModuleHandleW(nullptr), nullptr);
-    TakeFont();
+    ApplyFont();
     OnCreated();
-    OnLaid();
+    OnLayout();
     if (!control_.ToolTip().empty()) {
-        OnDraw(Property::ToolTip, -1);
+        OnPropertyChanged(Property::ToolTip, -1);
     }
 }
 
-void NativeControl::TakeFont() const {
-    Send(WM_SETFONT, reinterpret_cast<WPARAM>(Sizes().Font(class_.face)), FALSE);
+void NativeControl::ApplyFont() const {
+    Send(WM_SETFONT, reinterpret_cast<WPARAM>(GetMetrics().Font(class_.face)), FALSE);
 }
 
-void NativeControl::Lay() {
-    const Level level(drawing_);
+void NativeControl::Layout() {
+    const Level level(applying_);
     const RECT place = Place();
-    TakeFont();
+    ApplyFont();
     ::SetWindowPos(handle_, nullptr, place.left, place.top, place.right - place.left,
                    place.bottom - place.top, SWP_NOZORDER | SWP_NOACTIVATE);
-    OnLaid();
+    OnLayout();
 }
 
 void NativeControl::Apply(Property property, int row) {
-    const Level level(drawing_);
-    OnDraw(property, row);
+    const Level level(applying_);
+    OnPropertyChanged(property, row);
 }
 
-void NativeControl::OnDraw(Property property, int /*row*/) {
+void NativeControl::OnPropertyChanged(Property property, int /*row*/) {
     switch (property) {
         case Property::Caption:
             ::SetWindowTextW(handle_, CaptionText().c_str());
             break;
         case Property::Enabled:
-            DrawEnabled();
+            ApplyEnabled();
             break;
         case Property::Visible:
             ::ShowWindow(handle_, control_.Visible() ? SW_SHOWNA : SW_HIDE);
@@ -84,39 +84,39 @@ void NativeControl::OnDraw(Property property, int /*row*/) {
     }
 }
 
-void NativeControl::DrawEnabled() {
-    // The keyboard would go nowhere if it stayed with a control that takes no input.
+void NativeControl::ApplyEnabled() {
+    // A disabled control with the focus would block the keyboard.
     if (!control_.Enabled() && ::GetFocus() == handle_) {
         ::SetFocus(::GetNextDlgTabItem(parent_.Handle(), handle_, FALSE));
     }
     ::EnableWindow(handle_, control_.Enabled());
 }
 
-const Metrics& NativeControl::Sizes() const {
-    return parent_.Sizes();
+const Metrics& NativeControl::GetMetrics() const {
+    return parent_.GetMetrics();
 }
 
 RECT NativeControl::Place() const {
-    return Sizes().Pixels(control_.Spec().place);
+    return GetMetrics().Pixels(control_.Spec().place);
 }
 
-RECT NativeControl::InMiddle(RECT place, int height) {
+RECT NativeControl::WithHeight(RECT place, int height) {
     place.top += (place.bottom - place.top - height) / 2;
     place.bottom = place.top + height;
     return place;
 }
 
 void NativeControl::Command(WORD code) {
-    if (drawing_ == 0) {
+    if (applying_ == 0) {
         OnCommand(code);
     }
 }
 
 LRESULT NativeControl::Notify(const NMHDR& notice) {
-    return drawing_ == 0 ? OnNotify(notice) : 0;
+    return applying_ == 0 ? OnNotify(notice) : 0;
 }
 
-HBRUSH NativeControl::Colours(HDC /*context*/) {
+HBRUSH NativeControl::Colors(HDC /*context*/) {
     return nullptr;
 }
 

@@ -1,4 +1,4 @@
-// A control of Windows that shows a control of the toolkit.
+// The Windows control of a control.
 #pragma once
 
 #include <string>
@@ -11,16 +11,16 @@ namespace desktop {
 
 class NativeWindow;
 
-/// What a control is made from.
+/// Arguments of CreateWindowEx.
 struct NativeClass {
     const wchar_t* name;
-    DWORD style = 0;  // beside WS_CHILD
+    DWORD style = 0;  // besides WS_CHILD
     DWORD extendedStyle = 0;
     Face face = Face::Body;
 };
 
-/// Holds the native control and is what its window hands the control's messages to. Each kind of
-/// control has a class of its own in a file of its own. The window destroys the native part.
+/// Creates the native control and handles the messages that its window reflects to it. Each kind of
+/// control has a class and a file of its own. The window destroys the native control.
 class NativeControl {
   public:
     NativeControl(NativeWindow& parent, toolkit::Control& control, const NativeClass& what)
@@ -29,67 +29,67 @@ class NativeControl {
     NativeControl& operator=(const NativeControl&) = delete;
     virtual ~NativeControl() = default;
 
-    /// Makes the native control as the toolkit's control is now, in one call as far as that goes:
-    /// each further one would cost the start of the program time.
+    /// Creates the native control with the current state, as far as possible in one call: each
+    /// further one makes the start slower.
     void Create();
 
     HWND Handle() const { return handle_; }
-    toolkit::Control& Shown() const { return control_; }
+    toolkit::Control& GetControl() const { return control_; }
 
-    /// Draws one property anew. What the native control says meanwhile is not the user's doing.
+    /// Draws a property. Notifications of the native control are ignored meanwhile.
     void Apply(Property property, int row = -1);
-    /// Takes its font and its place at another density.
-    void Lay();
+    /// Applies font and place, after the resolution has changed.
+    void Layout();
 
-    /// A notification of WM_COMMAND or WM_NOTIFY, passed on when the user was the cause.
+    /// Handles a notification of WM_COMMAND or WM_NOTIFY, unless the program caused it.
     void Command(WORD code);
     LRESULT Notify(const NMHDR& notice);
-    /// Prepares the context for a control that is about to draw itself, and gives the brush of its
-    /// background; null leaves both as Windows has them.
-    virtual HBRUSH Colours(HDC context);
-    /// Draws a control that Windows does not.
+    /// Handles WM_CTLCOLORSTATIC: sets the colors of the device context and returns the background
+    /// brush, or returns null for those of the system.
+    virtual HBRUSH Colors(HDC context);
+    /// Draws an owner-drawn control.
     virtual void DrawItem(const DRAWITEMSTRUCT& item);
-    /// The pointer over this control; null for the usual arrow.
+    /// The mouse pointer over this control; null for the arrow.
     virtual HCURSOR Pointer() const { return nullptr; }
-    /// Whether the Enter key presses this control when it has the focus.
+    /// Whether the Enter key presses this control while it has the focus.
     virtual bool IsPushButton() const { return false; }
 
   protected:
-    /// What Command and Notify stand for in this kind of control.
+    /// Handle the notifications of this kind of control.
     virtual void OnCommand(WORD /*code*/) {}
     virtual LRESULT OnNotify(const NMHDR& /*notice*/) { return 0; }
-    /// Draws one property; those that all controls share are drawn here.
-    virtual void OnDraw(Property property, int row);
-    /// Fills a control that has just been made with what it holds beside its caption.
+    /// Draws a property. The base class draws those that all controls have.
+    virtual void OnPropertyChanged(Property property, int row);
+    /// Sets the state of a new native control that CreateWindowEx does not take.
     virtual void OnCreated() {}
-    /// Follows when it has taken its font and place.
-    virtual void OnLaid() {}
-    /// Its place in the window, in pixels: what the table says.
+    /// Called after font and place have been set.
+    virtual void OnLayout() {}
+    /// Its place in the window, in pixels.
     virtual RECT Place() const;
-    /// The text that the native control has for its caption.
+    /// The window text of the native control.
     virtual std::wstring CaptionText() const;
 
     LRESULT Send(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const {
         return ::SendMessageW(handle_, message, wParam, lParam);
     }
-    /// Sends a message with a text.
+    /// Sends a message with a text as lParam.
     LRESULT SendText(UINT message, WPARAM wParam, const std::string& text) const;
     std::string NativeText() const;
     NativeWindow& Parent() const { return parent_; }
-    const Metrics& Sizes() const;
-    /// `place` with another height, in its middle.
-    static RECT InMiddle(RECT place, int height);
+    const Metrics& GetMetrics() const;
+    /// Returns `place` with another height, centered vertically.
+    static RECT WithHeight(RECT place, int height);
 
   private:
     DWORD Style() const;
-    void TakeFont() const;
-    void DrawEnabled();
+    void ApplyFont() const;
+    void ApplyEnabled();
 
     NativeWindow& parent_;
     toolkit::Control& control_;
     NativeClass class_;
     HWND handle_ = nullptr;
-    int drawing_ = 0;  // depth of nested calls of Draw
+    int applying_ = 0;  // number of nested calls that change the native control
 };
 
 }  // namespace desktop

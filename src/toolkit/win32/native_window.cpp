@@ -8,7 +8,7 @@
 namespace desktop {
 namespace {
 
-RECT Inside(const toolkit::Window& window, const Metrics& metrics) {
+RECT ClientArea(const toolkit::Window& window, const Metrics& metrics) {
     return metrics.Pixels({0, 0, window.Spec().width, window.Spec().height});
 }
 
@@ -16,7 +16,7 @@ HWND Create(const toolkit::Window& window, const Metrics& metrics) {
     const DWORD style = window.Spec().dialog ? WS_POPUP | WS_CAPTION | WS_SYSMENU
                                              : WS_CAPTION | WS_SYSMENU | WS_MINIMIZEBOX;
     const DWORD extended = WS_EX_CONTROLPARENT | (window.Spec().dialog ? WS_EX_DLGMODALFRAME : 0);
-    RECT frame = Inside(window, metrics);
+    RECT frame = ClientArea(window, metrics);
     ::AdjustWindowRectEx(&frame, style, FALSE, extended);
     return ::CreateWindowExW(extended, WindowClassName, platform::Wide(window.Caption()).c_str(),
                              style, CW_USEDEFAULT, CW_USEDEFAULT, frame.right - frame.left,
@@ -24,7 +24,7 @@ HWND Create(const toolkit::Window& window, const Metrics& metrics) {
                              ::GetModuleHandleW(nullptr), nullptr);
 }
 
-/// The program's icon in a size of the system.
+/// The program's icon in the size of a system metric.
 HICON Icon(HINSTANCE program, int metric) {
     const int size = ::GetSystemMetrics(metric);
     return static_cast<HICON>(
@@ -47,11 +47,11 @@ void NativeWindow::RegisterWindowClass() {
 }
 
 NativeWindow::NativeWindow(toolkit::Window& window)
-    : window_(window), metrics_(FirstScreensDensity()), handle_(Create(window, metrics_)) {
-    if (const int density = DensityOf(handle_); density != metrics_.Density()) {
-        metrics_ = Metrics(density);
+    : window_(window), metrics_(SystemDpi()), handle_(Create(window, metrics_)) {
+    if (const int dpi = DpiOf(handle_); dpi != metrics_.Dpi()) {
+        metrics_ = Metrics(dpi);
     }
-    Size();
+    UpdateSize();
     MakeControls();
     ::SetWindowLongPtrW(handle_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
 }
@@ -69,8 +69,8 @@ void NativeWindow::MakeControls() {
     }
 }
 
-void NativeWindow::Size() {
-    const RECT wanted = Inside(window_, metrics_);
+void NativeWindow::UpdateSize() {
+    const RECT wanted = ClientArea(window_, metrics_);
     RECT got = {};
     ::GetClientRect(handle_, &got);
     if (got.right != wanted.right || got.bottom != wanted.bottom) {
@@ -80,12 +80,12 @@ void NativeWindow::Size() {
                        frame.bottom - frame.top + wanted.bottom - got.bottom,
                        SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
     }
-    band_.Lay(window_, metrics_);
+    band_.Layout(window_, metrics_);
 }
 
 NativeControl* NativeWindow::Find(const toolkit::Control& control) const {
     for (const auto& native : controls_) {
-        if (&native->Shown() == &control) {
+        if (&native->GetControl() == &control) {
             return native.get();
         }
     }
@@ -101,9 +101,9 @@ NativeControl* NativeWindow::FromHandle(HWND handle) const {
     return nullptr;
 }
 
-NativeControl* NativeWindow::WithFlag(toolkit::Flag flag) const {
+NativeControl* NativeWindow::FindWithFlag(toolkit::Flag flag) const {
     for (const auto& native : controls_) {
-        if (native->Shown().Has(flag)) {
+        if (native->GetControl().Has(flag)) {
             return native.get();
         }
     }

@@ -1,4 +1,4 @@
-// A window of Windows that shows a window of the toolkit.
+// The Windows window of a window.
 #pragma once
 
 #include <memory>
@@ -12,7 +12,7 @@
 
 namespace desktop {
 
-/// Owns the native window with all of its controls. Made hidden.
+/// Owns the native window and its controls. It is created hidden.
 class NativeWindow {
   public:
     explicit NativeWindow(toolkit::Window& window);
@@ -20,40 +20,40 @@ class NativeWindow {
     NativeWindow& operator=(const NativeWindow&) = delete;
     ~NativeWindow();
 
-    /// Before the first window: makes the class of all of them known.
+    /// Registers the window class; called before the first window is created.
     static void RegisterWindowClass();
 
     HWND Handle() const { return handle_; }
-    toolkit::Window& Shown() const { return window_; }
-    const Metrics& Sizes() const { return metrics_; }
+    toolkit::Window& GetWindow() const { return window_; }
+    const Metrics& GetMetrics() const { return metrics_; }
     ToolTips& Tips() { return tips_; }
-    /// The title band, which labels and pictures stand on.
+    /// The background of the labels and pictures on it.
     Band& TitleBand() { return band_; }
-    /// The native control of one of the window's controls; null when there is none.
+    /// The native control of a control of the window; null if there is none.
     NativeControl* Find(const toolkit::Control& control) const;
-    /// The one with that handle; null when there is none.
+    /// The native control with a handle; null if there is none.
     NativeControl* FromHandle(HWND handle) const;
 
     void CaptionChanged() const;
-    /// Puts the window into the middle of the screen that its owner, if any, is on.
+    /// Centers the window on the monitor of its owner, or of the window itself if it has none.
     void Centre() const;
-    /// Gives a control the keyboard, or keeps it for the moment when the window becomes active.
+    /// Sets the keyboard focus to a control, when the window is active.
     void Focus(HWND control);
-    /// Has the keyboard at the first control of the tab order the next time.
-    void ForgetFocus() { focus_ = nullptr; }
+    /// Next time the window becomes active, the first control in the tab order gets the focus.
+    void ResetFocus() { focus_ = nullptr; }
 
   private:
-    struct Route;  // a message and what answers it
-    static const Route routes[];
+    struct Route;  // a message and its handler
+    static const Route Routes[];
 
     static LRESULT CALLBACK Procedure(HWND handle, UINT message, WPARAM wParam, LPARAM lParam);
-    LRESULT Answer(UINT message, WPARAM wParam, LPARAM lParam);
-    LRESULT Default(UINT message, WPARAM wParam, LPARAM lParam) const;
+    LRESULT HandleMessage(UINT message, WPARAM wParam, LPARAM lParam);
+    LRESULT DefaultHandler(UINT message, WPARAM wParam, LPARAM lParam) const;
 
     LRESULT OnCommand(WPARAM wParam, LPARAM lParam);
     LRESULT OnNotify(WPARAM wParam, LPARAM lParam);
     LRESULT OnDrawItem(WPARAM wParam, LPARAM lParam);
-    LRESULT OnStaticColours(WPARAM wParam, LPARAM lParam);
+    LRESULT OnStaticColors(WPARAM wParam, LPARAM lParam);
     LRESULT OnClose(WPARAM wParam, LPARAM lParam);
     LRESULT OnEndSession(WPARAM wParam, LPARAM lParam);
     LRESULT OnActivate(WPARAM wParam, LPARAM lParam);
@@ -61,13 +61,13 @@ class NativeWindow {
     LRESULT OnDefaultButton(WPARAM wParam, LPARAM lParam);
     LRESULT OnSetCursor(WPARAM wParam, LPARAM lParam);
     LRESULT OnPointer(WPARAM wParam, LPARAM lParam);
-    LRESULT OnDensity(WPARAM wParam, LPARAM lParam);
+    LRESULT OnDpiChanged(WPARAM wParam, LPARAM lParam);
 
     void MakeControls();
-    void Size();
+    void UpdateSize();
     void RestoreFocus();
     void PressCancel();
-    NativeControl* WithFlag(toolkit::Flag flag) const;
+    NativeControl* FindWithFlag(toolkit::Flag flag) const;
 
     toolkit::Window& window_;
     Metrics metrics_;
@@ -75,7 +75,7 @@ class NativeWindow {
     ToolTips tips_{handle_};
     Band band_;
     std::vector<std::unique_ptr<NativeControl>> controls_;
-    HWND focus_ = nullptr;  // the control that gets the keyboard when the window becomes active
+    HWND focus_ = nullptr;  // gets the focus when the window becomes active
 };
 
 }  // namespace desktop

@@ -1,18 +1,18 @@
-// What a window does with its messages. Those of its controls go to the control that they tell of.
+// The messages of a window. Notifications of a control are reflected to it.
 #include "toolkit/win32/native_window.h"
 
 namespace desktop {
 
 struct NativeWindow::Route {
     UINT message;
-    LRESULT (NativeWindow::*answer)(WPARAM wParam, LPARAM lParam);
+    LRESULT (NativeWindow::*handler)(WPARAM wParam, LPARAM lParam);
 };
 
-const NativeWindow::Route NativeWindow::routes[] = {
+const NativeWindow::Route NativeWindow::Routes[] = {
     {WM_COMMAND, &NativeWindow::OnCommand},
     {WM_NOTIFY, &NativeWindow::OnNotify},
     {WM_DRAWITEM, &NativeWindow::OnDrawItem},
-    {WM_CTLCOLORSTATIC, &NativeWindow::OnStaticColours},
+    {WM_CTLCOLORSTATIC, &NativeWindow::OnStaticColors},
     {WM_CLOSE, &NativeWindow::OnClose},
     {WM_ENDSESSION, &NativeWindow::OnEndSession},
     {WM_ACTIVATE, &NativeWindow::OnActivate},
@@ -20,26 +20,26 @@ const NativeWindow::Route NativeWindow::routes[] = {
     {DM_GETDEFID, &NativeWindow::OnDefaultButton},
     {WM_SETCURSOR, &NativeWindow::OnSetCursor},
     {WM_MOUSEMOVE, &NativeWindow::OnPointer},
-    {WM_DPICHANGED, &NativeWindow::OnDensity},
+    {WM_DPICHANGED, &NativeWindow::OnDpiChanged},
 };
 
 LRESULT CALLBACK NativeWindow::Procedure(HWND handle, UINT message, WPARAM wParam, LPARAM lParam) {
     NativeWindow* self =
         reinterpret_cast<NativeWindow*>(::GetWindowLongPtrW(handle, GWLP_USERDATA));
-    return self != nullptr ? self->Answer(message, wParam, lParam)
+    return self != nullptr ? self->HandleMessage(message, wParam, lParam)
                            : ::DefWindowProcW(handle, message, wParam, lParam);
 }
 
-LRESULT NativeWindow::Answer(UINT message, WPARAM wParam, LPARAM lParam) {
-    for (const Route& route : routes) {
+LRESULT NativeWindow::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+    for (const Route& route : Routes) {
         if (route.message == message) {
-            return (this->*route.answer)(wParam, lParam);
+            return (this->*route.handler)(wParam, lParam);
         }
     }
-    return Default(message, wParam, lParam);
+    return DefaultHandler(message, wParam, lParam);
 }
 
-LRESULT NativeWindow::Default(UINT message, WPARAM wParam, LPARAM lParam) const {
+LRESULT NativeWindow::DefaultHandler(UINT message, WPARAM wParam, LPARAM lParam) const {
     return ::DefWindowProcW(handle_, message, wParam, lParam);
 }
 
@@ -53,7 +53,7 @@ LRESULT NativeWindow::OnCommand(WPARAM wParam, LPARAM lParam) {
 }
 
 void NativeWindow::PressCancel() {
-    if (NativeControl* button = WithFlag(toolkit::Cancel)) {
+    if (NativeControl* button = FindWithFlag(toolkit::Cancel)) {
         button->Command(BN_CLICKED);
     } else if (window_.Spec().dialog) {
         window_.UserCloses();
@@ -63,7 +63,7 @@ void NativeWindow::PressCancel() {
 LRESULT NativeWindow::OnNotify(WPARAM wParam, LPARAM lParam) {
     const auto& notice = *reinterpret_cast<const NMHDR*>(lParam);
     NativeControl* control = FromHandle(notice.hwndFrom);
-    return control != nullptr ? control->Notify(notice) : Default(WM_NOTIFY, wParam, lParam);
+    return control != nullptr ? control->Notify(notice) : DefaultHandler(WM_NOTIFY, wParam, lParam);
 }
 
 LRESULT NativeWindow::OnDrawItem(WPARAM /*wParam*/, LPARAM lParam) {
@@ -74,11 +74,11 @@ LRESULT NativeWindow::OnDrawItem(WPARAM /*wParam*/, LPARAM lParam) {
     return TRUE;
 }
 
-LRESULT NativeWindow::OnStaticColours(WPARAM wParam, LPARAM lParam) {
-    const LRESULT standard = Default(WM_CTLCOLORSTATIC, wParam, lParam);
+LRESULT NativeWindow::OnStaticColors(WPARAM wParam, LPARAM lParam) {
+    const LRESULT standard = DefaultHandler(WM_CTLCOLORSTATIC, wParam, lParam);
     NativeControl* control = FromHandle(reinterpret_cast<HWND>(lParam));
     const HBRUSH brush =
-        control != nullptr ? control->Colours(reinterpret_cast<HDC>(wParam)) : nullptr;
+        control != nullptr ? control->Colors(reinterpret_cast<HDC>(wParam)) : nullptr;
     return brush != nullptr ? reinterpret_cast<LRESULT>(brush) : standard;
 }
 
@@ -88,7 +88,7 @@ LRESULT NativeWindow::OnClose(WPARAM /*wParam*/, LPARAM /*lParam*/) {
 }
 
 LRESULT NativeWindow::OnEndSession(WPARAM wParam, LPARAM /*lParam*/) {
-    // The process is gone when this returns: the last chance of the program to save.
+    // Windows ends the process when this returns, so the settings must be saved now.
     if (wParam != 0 && !window_.Spec().dialog) {
         window_.UserCloses();
     }
@@ -97,7 +97,7 @@ LRESULT NativeWindow::OnEndSession(WPARAM wParam, LPARAM /*lParam*/) {
 
 LRESULT NativeWindow::OnActivate(WPARAM wParam, LPARAM lParam) {
     if (LOWORD(wParam) != WA_INACTIVE) {
-        return Default(WM_ACTIVATE, wParam, lParam);
+        return DefaultHandler(WM_ACTIVATE, wParam, lParam);
     }
     const HWND focus = ::GetFocus();
     if (::IsChild(handle_, focus)) {
@@ -114,7 +114,7 @@ LRESULT NativeWindow::OnSetFocus(WPARAM /*wParam*/, LPARAM /*lParam*/) {
 LRESULT NativeWindow::OnDefaultButton(WPARAM /*wParam*/, LPARAM /*lParam*/) {
     NativeControl* button = FromHandle(::GetFocus());
     if (button == nullptr || !button->IsPushButton()) {
-        button = WithFlag(toolkit::Default);
+        button = FindWithFlag(toolkit::Default);
     }
     return button != nullptr ? MAKELRESULT(::GetDlgCtrlID(button->Handle()), DC_HASDEFID) : 0;
 }
@@ -123,7 +123,7 @@ LRESULT NativeWindow::OnSetCursor(WPARAM wParam, LPARAM lParam) {
     const NativeControl* control = FromHandle(reinterpret_cast<HWND>(wParam));
     const HCURSOR pointer = control != nullptr ? control->Pointer() : nullptr;
     if (pointer == nullptr) {
-        return Default(WM_SETCURSOR, wParam, lParam);
+        return DefaultHandler(WM_SETCURSOR, wParam, lParam);
     }
     ::SetCursor(pointer);
     return TRUE;
@@ -132,25 +132,25 @@ LRESULT NativeWindow::OnSetCursor(WPARAM wParam, LPARAM lParam) {
 LRESULT NativeWindow::OnPointer(WPARAM wParam, LPARAM lParam) {
     const POINT point = {static_cast<short>(LOWORD(lParam)), static_cast<short>(HIWORD(lParam))};
     const HWND child = ::ChildWindowFromPointEx(handle_, point, CWP_SKIPINVISIBLE);
-    // Windows sends us what moves over a frame, or over a control that is disabled.
+    // The window also gets the movements over frames and disabled controls.
     if (NativeControl* control = FromHandle(child)) {
         POINT inside = point;
         ::MapWindowPoints(handle_, child, &inside, 1);
-        control->Shown().UserMovesPointer(inside.x, inside.y);
+        control->GetControl().UserMovesPointer(inside.x, inside.y);
     } else {
         window_.UserMovesPointer();
     }
-    return Default(WM_MOUSEMOVE, wParam, lParam);
+    return DefaultHandler(WM_MOUSEMOVE, wParam, lParam);
 }
 
-LRESULT NativeWindow::OnDensity(WPARAM wParam, LPARAM lParam) {
+LRESULT NativeWindow::OnDpiChanged(WPARAM wParam, LPARAM lParam) {
     const auto& place = *reinterpret_cast<const RECT*>(lParam);
     metrics_ = Metrics(HIWORD(wParam));
     ::SetWindowPos(handle_, nullptr, place.left, place.top, 0, 0,
                    SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
-    Size();
+    UpdateSize();
     for (const auto& control : controls_) {
-        control->Lay();
+        control->Layout();
     }
     ::InvalidateRect(handle_, nullptr, TRUE);
     return 0;

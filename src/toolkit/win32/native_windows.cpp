@@ -56,15 +56,15 @@ NativeControl* FindNative(HWND control) {
     return nullptr;
 }
 
-void PutOnTop(NativeWindow& window) {
+void PushWindow(NativeWindow& window) {
     shown.push_back(&window);
 }
 
-void TakeOff(NativeWindow& window) {
+void RemoveWindow(NativeWindow& window) {
     std::erase(shown, &window);
 }
 
-HWND Topmost() {
+HWND FrontWindow() {
     return shown.empty() ? nullptr : shown.back()->Handle();
 }
 

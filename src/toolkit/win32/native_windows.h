@@ -1,29 +1,29 @@
-// Which native windows there are, and which of them are on the screen.
+// The native windows of the loaded windows.
 #pragma once
 
 #include "toolkit/win32/native_window.h"
 
 namespace desktop {
 
-/// Counts a window among the loaded ones. Its native window is made when it is first needed, so
-/// that a dialog that nobody opens costs nothing: all state is in the toolkit's controls.
+/// Adds a window. Its native window is created when it is first shown, so that a dialog that is
+/// never opened costs nothing.
 void Register(toolkit::Window& window);
-/// Takes it off the list again, with its native window.
+/// Removes a window and destroys its native window.
 void Unregister(const toolkit::Window& window);
 
-/// The native window, null when it has not been made.
+/// The native window; null if it has not been created.
 NativeWindow* FindNative(const toolkit::Window& window);
-/// The same, made now if need be; null for a window that is not loaded.
+/// The native window, created if necessary; null for a window that is not loaded.
 NativeWindow* EnsureNative(const toolkit::Window& window);
-/// The native control, null when its window has not been made.
+/// The native control; null if its window has not been created.
 NativeControl* FindNative(const toolkit::Control& control);
-/// The control with that handle, null when it is none of ours.
+/// The native control with a handle; null if it is not one of ours.
 NativeControl* FindNative(HWND control);
 
-/// Counts a window as the topmost one of those that are shown, or no longer among them.
-void PutOnTop(NativeWindow& window);
-void TakeOff(NativeWindow& window);
-/// The window that a dialog opens over; null when none is shown.
-HWND Topmost();
+/// Adds a shown window on top of the others, or removes it when it is hidden.
+void PushWindow(NativeWindow& window);
+void RemoveWindow(NativeWindow& window);
+/// The window in front, which owns a new dialog; null if no window is visible.
+HWND FrontWindow();
 
 }  // namespace desktop

@@ -1,4 +1,4 @@
-// STATIC drawn by us: the title band, or a picture that stands on it.
+// Owner-drawn STATIC: the title band, or a picture on it.
 #include <algorithm>
 
 #include "toolkit/win32/controls.h"
@@ -12,9 +12,9 @@ SIZE SizeOf(HICON icon) {
     ICONINFO parts = {};
     ::GetIconInfo(icon, &parts);
     const OwnedBitmap mask(parts.hbmMask);
-    const OwnedBitmap colours(parts.hbmColor);
+    const OwnedBitmap colors(parts.hbmColor);
     BITMAP facts = {};
-    ::GetObjectW(colours.get(), sizeof facts, &facts);
+    ::GetObjectW(colors.get(), sizeof facts, &facts);
     return {facts.bmWidth, facts.bmHeight};
 }
 
@@ -27,26 +27,26 @@ class NativePicture : public NativeControl {
     void DrawItem(const DRAWITEMSTRUCT& item) override;
 
   protected:
-    void OnLaid() override;
+    void OnLayout() override;
 
   private:
-    bool IsBand() const { return Shown().Spec().picture == BandPicture; }
+    bool IsBand() const { return GetControl().Spec().picture == BandPicture; }
 
     OwnedIcon icon_;
 };
 
-void NativePicture::OnLaid() {
+void NativePicture::OnLayout() {
     if (!IsBand()) {
         RECT inside = {};
         ::GetClientRect(Handle(), &inside);
-        icon_ = LoadPicture(Shown().Spec().picture,
+        icon_ = LoadPicture(GetControl().Spec().picture,
                             static_cast<int>(std::min(inside.right, inside.bottom)));
     }
 }
 
 void NativePicture::DrawItem(const DRAWITEMSTRUCT& item) {
     const RECT& place = item.rcItem;
-    const HBRUSH brush = Parent().TitleBand().Beneath(Handle(), item.hDC);
+    const HBRUSH brush = Parent().TitleBand().BackgroundBrush(Handle(), item.hDC);
     ::FillRect(item.hDC, &place, brush != nullptr ? brush : ::GetSysColorBrush(COLOR_3DFACE));
     if (icon_ != nullptr) {
         const SIZE size = SizeOf(icon_.get());

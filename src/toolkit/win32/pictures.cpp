@@ -7,22 +7,22 @@
 namespace desktop {
 namespace {
 
-/// The sizes in which art/generate draws our icons, the same for all of them as far as they go.
+/// The sizes of the icons that art/generate makes.
 constexpr int DrawnSizes[] = {16, 24, 32, 36, 42, 48, 56, 63, 84};
 
-/// The largest drawn size that fits: an icon that Windows has to scale looks ragged.
-int DrawnSize(int room) {
-    const auto* larger = std::ranges::upper_bound(DrawnSizes, room);
-    return larger != std::begin(DrawnSizes) ? *(larger - 1) : room;
+/// The largest of these sizes that fits: Windows scales icons badly.
+int LargestFitting(int size) {
+    const auto* larger = std::ranges::upper_bound(DrawnSizes, size);
+    return larger != std::begin(DrawnSizes) ? *(larger - 1) : size;
 }
 
 }  // namespace
 
-OwnedIcon LoadPicture(std::string_view name, int room) {
-    const int size = DrawnSize(room);
+OwnedIcon LoadPicture(std::string_view name, int size) {
+    const int drawn = LargestFitting(size);
     return OwnedIcon(
         static_cast<HICON>(::LoadImageW(::GetModuleHandleW(nullptr), platform::Wide(name).c_str(),
-                                        IMAGE_ICON, size, size, LR_DEFAULTCOLOR)));
+                                        IMAGE_ICON, drawn, drawn, LR_DEFAULTCOLOR)));
 }
 
 }  // namespace desktop

@@ -1,4 +1,4 @@
-// Our own pictures, from the resources of the program.
+// The pictures of the program, from its resources.
 #pragma once
 
 #include <string_view>
@@ -7,11 +7,11 @@
 
 namespace desktop {
 
-/// Resource number of the program's icon: the lowest, which is the one that the shell shows.
+/// Resource number of the program's icon. The shell shows the lowest one.
 inline const wchar_t* const ProgramIcon = MAKEINTRESOURCEW(1);
 
-/// A picture by its name in a window's table, in the largest size that has room in the given number
-/// of pixels each way. Null when there is none of that name.
-OwnedIcon LoadPicture(std::string_view name, int room);
+/// Loads a picture in the largest size of at most `size` pixels. Returns null if there is no such
+/// picture.
+OwnedIcon LoadPicture(std::string_view name, int size);
 
 }  // namespace desktop

@@ -17,14 +17,17 @@ class NativeTextBox : public NativeControl {
         }
     }
 
-    void OnDraw(Property property, int row) override {
-        NativeControl::OnDraw(property == Property::Text ? Property::Caption : property, row);
+    void OnPropertyChanged(Property property, int row) override {
+        NativeControl::OnPropertyChanged(property == Property::Text ? Property::Caption : property,
+                                         row);
     }
 
-    void OnCreated() override { Send(EM_SETLIMITTEXT); }  // none
+    void OnCreated() override { Send(EM_SETLIMITTEXT); }  // no limit
 
-    // In a higher field the text would stay at the top.
-    RECT Place() const override { return InMiddle(NativeControl::Place(), Sizes().FieldHeight()); }
+    // A higher field would draw its text at the top.
+    RECT Place() const override {
+        return WithHeight(NativeControl::Place(), GetMetrics().FieldHeight());
+    }
 
     std::wstring CaptionText() const override { return platform::Wide(box_.Text()); }
 

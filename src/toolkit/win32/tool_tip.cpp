@@ -17,7 +17,7 @@ void ToolTips::Set(HWND control, const std::string& text) {
     }
     std::wstring wide = platform::Wide(text);
     TOOLINFOW tool = {};
-    tool.cbSize = TTTOOLINFOW_V1_SIZE;  // what every version of the common controls takes
+    tool.cbSize = TTTOOLINFOW_V1_SIZE;  // accepted by every version of the common controls
     tool.uFlags = TTF_IDISHWND | TTF_SUBCLASS;
     tool.hwnd = owner_;
     tool.uId = reinterpret_cast<UINT_PTR>(control);

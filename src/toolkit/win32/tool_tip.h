@@ -1,4 +1,4 @@
-// The floating texts of a window's controls.
+// The tooltips of a window's controls.
 #pragma once
 
 #include <string>
@@ -7,12 +7,12 @@
 
 namespace desktop {
 
-/// Made when the first text is set.
+/// The native control is created when the first text is set.
 class ToolTips {
   public:
-    /// `owner` is the window whose controls have the texts; it destroys the native part.
+    /// `owner` is the window of the controls. It destroys the native control.
     explicit ToolTips(const HWND& owner) : owner_(owner) {}
-    /// Gives a control its text, in place of the one that it had.
+    /// Sets the text of a control.
     void Set(HWND control, const std::string& text);
 
   private:
