@@ -79,8 +79,8 @@ ConfigMapRef Nested(int settings) {
 
 std::size_t EntriesOf(const ConfigMap& map) {
     std::size_t entries = 0;
-    for (const ConfigValue& value : map.Items()) {
-        const ConfigMapRef nested = value.AsMap();
+    for (const ConfigEntry& entry : map.Entries()) {
+        const ConfigMapRef nested = entry.value.AsMap();
         entries += nested ? 1 + EntriesOf(*nested) : 1;
     }
     return entries;

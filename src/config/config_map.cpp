@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <bit>
 #include <functional>
+#include <iterator>
 #include <utility>
 
 namespace {
@@ -138,6 +139,18 @@ bool ConfigMap::Remove(std::string_view key) {
 void ConfigMap::RemoveAll() {
     entries_.clear();
     index_.reset();
+}
+
+std::vector<std::string> ConfigMap::Keys() const {
+    std::vector<std::string> keys;
+    std::ranges::transform(entries_, std::back_inserter(keys), &ConfigEntry::key);
+    return keys;
+}
+
+std::vector<ConfigValue> ConfigMap::Items() const {
+    std::vector<ConfigValue> items;
+    std::ranges::transform(entries_, std::back_inserter(items), &ConfigEntry::value);
+    return items;
 }
 
 std::uint32_t ConfigMap::Place(std::string_view key) const {

@@ -3,7 +3,6 @@
 
 #include <cstdint>
 #include <memory>
-#include <ranges>
 #include <span>
 #include <string>
 #include <string_view>
@@ -17,7 +16,7 @@ struct ConfigEntry {
 };
 
 /// Keys are any texts, compared exactly, each of them once. A key keeps its place when its value is
-/// replaced. References and views that the map returns stay valid until a key is added or removed.
+/// replaced. References that the map returns stay valid until a key is added or removed.
 /// Maps may be nested to any depth; a map must not contain itself.
 class ConfigMap {
   public:
@@ -45,10 +44,11 @@ class ConfigMap {
 
     /// Number of keys.
     std::int32_t Count() const { return static_cast<std::int32_t>(entries_.size()); }
-    /// All keys with their values, all keys, all values: indexed from 0, in the map's order.
+    /// All keys with their values, in the map's order.
     const std::vector<ConfigEntry>& Entries() const { return entries_; }
-    auto Keys() const { return entries_ | std::views::transform(&ConfigEntry::key); }
-    auto Items() const { return entries_ | std::views::transform(&ConfigEntry::value); }
+    /// A copy of all keys, of all values, in the map's order.
+    std::vector<std::string> Keys() const;
+    std::vector<ConfigValue> Items() const;
 
   private:
     struct Index;
