@@ -1,6 +1,6 @@
-// zorvane_tour PART FOLDER PICTURES: the program itself, which plays a part by its own widgets:
-// `journey` from nothing to a recorded game, `return` on the day after, or the name of a look. It
-// ends by its own Exit button, so an end without error means that every step was as it should be.
+// zorvane_tour PART FOLDER PICTURES: the program, driven by its own widgets. PART is `journey`
+// (from the first start to a recorded game), `return` (the next start), or the name of a look whose
+// windows are pictured. It ends with its Exit button, and succeeds if every step was as expected.
 #include "tour.h"
 
 #include <QComboBox>
@@ -27,24 +27,24 @@ namespace {
 
 using namespace tour;
 
-const std::string phase1 = "/usr/share/games/doom/freedoom1.wad";
-const std::string phase2 = "/usr/share/games/doom/freedoom2.wad";
+const std::string Phase1 = "/usr/share/games/doom/freedoom1.wad";
+const std::string Phase2 = "/usr/share/games/doom/freedoom2.wad";
 
 std::string Wads(const std::string& name) {
     return folder + "/wads/" + name;
 }
 
-/// A player's own WAD with a map of the game, a text beside it, and a patch; and an engine that
-/// starts, plays nothing and leaves no demo.
+/// Makes a WAD with a map of the game, its text file, a patch, and an engine that ends at once
+/// without a demo.
 void MakePlayersFiles() {
-    constexpr int lumpsOfMap = 11;
+    constexpr int LumpsOfMap = 11;
     std::string kind = "PWAD";
     clsWad game;
     clsWad own;
     std::filesystem::create_directory(Wads(""));
-    game.OpenWad("Z:" + phase1);
-    Check(own.CreateWad(Wads("castle.wad"), kind).ok, "a WAD of the player's own");
-    for (int lump = game.NumForName("E1M3"), i = 0; i < lumpsOfMap; ++i, ++lump) {
+    game.OpenWad("Z:" + Phase1);
+    Check(own.CreateWad(Wads("castle.wad"), kind).ok, "a new WAD");
+    for (int lump = game.NumForName("E1M3"), i = 0; i < LumpsOfMap; ++i, ++lump) {
         Check(own.AddLump(game.LumpName(lump), game.ReadLumpString(lump)).ok, "a lump");
     }
     Check(own.WriteDirectory().ok, "a directory");
@@ -65,7 +65,7 @@ void Choose(toolkit::ItemControl& list, const std::string& name) {
     driver::Choose(list, RowOf(list, name));
 }
 
-/// Turns two switches on in the next dialog of options.
+/// Switches two options on in the next options dialog.
 void SetOptionsNext(const std::string& picture) {
     driver::InNextModal([picture] {
         for (auto& box : frmEngineSettings.chkOptions) {
@@ -80,9 +80,9 @@ void SetOptionsNext(const std::string& picture) {
 }
 
 void SetUp() {
-    Press(frmSetup.cmdAdd, {{.typed = phase1, .picture = "add-game"},
+    Press(frmSetup.cmdAdd, {{.typed = Phase1, .picture = "add-game"},
                             {.shown = "Freedoom: Phase 1", .picture = "name-of-the-game"}});
-    Press(frmSetup.cmdAdd, {{.typed = phase2}, {.shown = "Freedoom: Phase 2"}});
+    Press(frmSetup.cmdAdd, {{.typed = Phase2}, {.shown = "Freedoom: Phase 2"}});
     Press(frmSetup.cmdAdd, {{.typed = Wads("castle.wad")},
                             {.shown = "Please select a game", .picture = "patch-is-no-game"}});
     const std::tuple<std::string, const char*, std::string> engines[] = {
@@ -128,7 +128,7 @@ void ChooseFilesAndMap() {
 std::string QuickStartLine(const std::string& demo = "",
                            const std::string& switches = "-window -nogui") {
     return switches + " -file " + Wads("castle.wad") + " " + Wads("patch.deh") + " -iwad " +
-           phase1 + " -skill 3 -fast -warp 1 3 " + demo + "-geometry 640x480";
+           Phase1 + " -skill 3 -fast -warp 1 3 " + demo + "-geometry 640x480";
 }
 
 void Run() {
@@ -141,7 +141,7 @@ void Run() {
     driver::Click(frmMain.cmdRun);
     WatchGame("chocolate-doom", QuickStartLine(), "run-chocolate-doom");
     driver::Click(frmMain.cmdLaunch);
-    WatchGame("chocolate-doom", "-window -nogui -iwad " + phase1, "launch");
+    WatchGame("chocolate-doom", "-window -nogui -iwad " + Phase1, "launch");
 }
 
 void RecordAndPlayBack() {
@@ -167,7 +167,7 @@ void RecordAndPlayBack() {
     Choose(frmMain.cmbEngines, "Chocolate Doom");
 }
 
-/// Opens a dialog, takes its picture and closes it.
+/// Opens a dialog, takes a picture of it and closes it.
 void Visit(toolkit::Button& opener, toolkit::Button& closer, const std::string& name,
            void (*takePicture)(const std::string&)) {
     driver::InNextModal([&, name] {
@@ -224,7 +224,7 @@ int main(int /*argumentCount*/, char** arguments) {
     pictureFolder = arguments[3];
     ConnectApplication();
     Main();
-    QTimer::singleShot(80'000, [] { Check(false, "the tour comes to its end"); });
+    QTimer::singleShot(80'000, [] { Check(false, "the tour ends in time"); });
     QTimer::singleShot(0, [=] { Play(arguments[1]); });
     return desktop::RunEventLoop() + 1;
 }

@@ -22,7 +22,7 @@ void Save(const QPixmap& pixmap, const std::string& name) {
     Check(pixmap.save(pictures.filePath(number + "-" + name.c_str() + ".png")), "a picture");
 }
 
-/// What a command prints.
+/// Returns the output of a command.
 std::string Output(const std::string& command) {
     QProcess process;
     process.startCommand(command.c_str());
@@ -30,32 +30,32 @@ std::string Output(const std::string& command) {
     return process.readAllStandardOutput().trimmed().toStdString();
 }
 
-/// Moves what windows a process has by now to the right of ours; gives whether one shows there.
+/// Moves the windows of a process to the right of ours; returns whether something is drawn there.
 bool ShowsSomething(int process) {
-    constexpr int dark = 10;
+    constexpr int Dark = 10;
     Output("xdotool search --all --onlyvisible --pid " + std::to_string(process) +
            " --name . windowmove %@ 740 140");
     const QPixmap inside = QGuiApplication::primaryScreen()->grabWindow(0, 1150, 250, 200, 200);
-    return qGray(inside.scaled(1, 1, {}, Qt::SmoothTransformation).toImage().pixel(0, 0)) >= dark;
+    return qGray(inside.scaled(1, 1, {}, Qt::SmoothTransformation).toImage().pixel(0, 0)) >= Dark;
 }
 
 }  // namespace
 
 void Check(bool fine, const std::string& what) {
     if (!fine) {
-        std::cerr << "The tour stops, not as it should be: " << what << '\n';
-        Picture("stopped");
+        std::cerr << "The tour failed: " << what << '\n';
+        Picture("failed");
         std::_Exit(1);
     }
 }
 
 void CheckEqual(const std::string& actual, const std::string& expected) {
-    Check(actual == expected, "is      " + actual + "\n should be " + expected);
+    Check(actual == expected, "is        " + actual + "\nshould be " + expected);
 }
 
 void Until(const std::function<bool()>& ready, const std::string& what) {
-    constexpr int patience = 30000;
-    Check(QTest::qWaitFor(ready, patience), what);
+    constexpr int Patience = 30000;
+    Check(QTest::qWaitFor(ready, Patience), what);
 }
 
 QWidget& Front() {
@@ -68,8 +68,8 @@ QWidget& Front() {
 }
 
 void Picture(const std::string& name) {
-    constexpr int settled = 120;
-    QTest::qWait(settled);
+    constexpr int SettleTime = 120;
+    QTest::qWait(SettleTime);
     Save(QGuiApplication::primaryScreen()->grabWindow(), name);
 }
 
@@ -99,19 +99,19 @@ void Press(toolkit::Button& button, const std::vector<Answer>& answers) {
 }
 
 void WatchGame(const std::string& engine, const std::string& arguments, const std::string& picture,
-               bool goesOn) {
-    constexpr int melting = 1200;  // the title melts into the map
+               bool keepRunning) {
+    constexpr int MeltTime = 1200;  // the title screen melts into the map
     const std::string program = folder + "/ports/" + engine + "/" + engine + " ";
     std::string found;  // the number of the process and its command line
     Until([&] { return !(found = Output("pgrep -af \"^" + program + '"')).empty(); }, program);
     CheckEqual(found.substr(found.find(' ') + 1), program + arguments);
     const int process = std::stoi(found);
-    for (const int pause : {melting, 0}) {  // an engine may replace its window while it starts
+    for (const int pause : {MeltTime, 0}) {  // an engine may replace its window while it starts
         Until([&] { return ShowsSomething(process); }, program + "shows something");
         QTest::qWait(pause);
     }
     Picture(picture);
-    if (!goesOn) {
+    if (!keepRunning) {
         kill(-process, SIGKILL);
         Until([&] { return kill(process, 0) != 0; }, "a game ends");
     }
