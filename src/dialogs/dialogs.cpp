@@ -8,6 +8,11 @@
 
 namespace {
 
+// Longest results in characters. The callers' buffers of 258 and 260 characters include two final
+// NULs and one.
+constexpr std::size_t LongestFileResult = 256;
+constexpr std::size_t LongestFolder = 259;
+
 desktop::OpenFileName MakeRecord(toolkit::Window& owner, const std::string& title,
                                  const std::string& filter, const std::string& initialFile,
                                  std::uint32_t flags) {
@@ -15,8 +20,6 @@ desktop::OpenFileName MakeRecord(toolkit::Window& owner, const std::string& titl
     record.hwndOwner = &owner;
     record.lpstrFilter = filter;
     std::ranges::replace(record.lpstrFilter, '|', '\0');
-    record.lpstrFile.assign(desktop::FileBufferSize, '\0');
-    record.nMaxFile = desktop::FileBufferSize;
     record.lpstrInitialDir = SettingText("lastdir");
     if (!initialFile.empty() && platform::IsOrdinaryFile(initialFile)) {
         record.lpstrInitialDir = initialFile.substr(0, initialFile.find_last_of("\\/") + 1);
@@ -26,16 +29,20 @@ desktop::OpenFileName MakeRecord(toolkit::Window& owner, const std::string& titl
     return record;
 }
 
+/// Shows one of the two dialogs. Returns its result, or the empty text if it is too long.
+std::string Run(bool (*dialog)(desktop::OpenFileName&), desktop::OpenFileName record) {
+    const bool confirmed = dialog(record);
+    std::string result = TrimAtDoubleNull(record.lpstrFile);
+    return confirmed && result.size() <= LongestFileResult ? result : std::string();
+}
+
 }  // namespace
 
 std::string OpenFileDialog(toolkit::Window& owner, const std::string& title,
                            const std::string& filter, const std::string& initialFile,
                            std::uint32_t flags) {
-    desktop::OpenFileName record = MakeRecord(owner, title, filter, initialFile, flags);
-    if (!desktop::GetOpenFileNameA(record)) {
-        return {};
-    }
-    std::string result = TrimAtDoubleNull(record.lpstrFile);
+    std::string result =
+        Run(desktop::GetOpenFileNameA, MakeRecord(owner, title, filter, initialFile, flags));
     const std::size_t nul = result.find('\0');
     const bool several = (flags & desktop::OfnAllowMultiSelect) != 0 && nul != std::string::npos;
     const std::size_t end = several ? nul : result.rfind('\\');
@@ -48,12 +55,12 @@ std::string OpenFileDialog(toolkit::Window& owner, const std::string& title,
 std::string SaveFileDialog(toolkit::Window& owner, const std::string& title,
                            const std::string& filter, const std::string& initialFile,
                            std::uint32_t flags) {
-    desktop::OpenFileName record = MakeRecord(owner, title, filter, initialFile, flags);
-    return desktop::GetSaveFileNameA(record) ? TrimAtDoubleNull(record.lpstrFile) : std::string();
+    return Run(desktop::GetSaveFileNameA, MakeRecord(owner, title, filter, initialFile, flags));
 }
 
 std::string BrowseForFolder(toolkit::Window& owner, const std::string& title) {
-    return TrimAtDoubleNull(desktop::BrowseForFolderPath({&owner, title}));
+    std::string folder = desktop::BrowseForFolderPath({&owner, title});
+    return folder.size() <= LongestFolder ? folder : std::string();
 }
 
 std::vector<std::string> ChosenFiles(const std::string& result) {

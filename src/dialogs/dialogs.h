@@ -24,8 +24,7 @@ inline constexpr std::uint32_t SaveFileFlags = 6;           // asks before overw
 /// Lets the user choose a file to open. Returns its full path; if the flags allow several and more
 /// than one was chosen, the folder and the bare names, separated by NULs. Starts in the folder of
 /// `initialFile` if that file exists, otherwise in the folder of the setting `lastdir`, and sets
-/// `lastdir` to the folder of the choice. A choice too long for the dialog's buffer counts as
-/// Cancel.
+/// `lastdir` to the folder of the choice. A result of more than 256 characters counts as Cancel.
 std::string OpenFileDialog(toolkit::Window& owner, const std::string& title,
                            const std::string& filter, const std::string& initialFile,
                            std::uint32_t flags);

@@ -12,10 +12,6 @@ class Window;
 
 namespace desktop {
 
-/// Sizes in characters of the buffers for the results, including all final NULs.
-inline constexpr std::uint32_t FileBufferSize = 258;
-inline constexpr std::uint32_t FolderBufferSize = 260;
-
 /// Bits of OpenFileName::Flags, with their Windows values.
 inline constexpr std::uint32_t OfnOverwritePrompt = 0x2;
 inline constexpr std::uint32_t OfnHideReadOnly = 0x4;
@@ -25,18 +21,17 @@ inline constexpr std::uint32_t OfnExplorer = 0x80000;
 
 struct OpenFileName {
     toolkit::Window* hwndOwner = nullptr;
-    std::string lpstrFilter;      // display text and pattern in turn, separated by NULs
-    std::string lpstrFile;        // a buffer of nMaxFile NULs that receives the result
-    std::uint32_t nMaxFile = 0;   // size of that buffer in characters
+    std::string lpstrFilter;  // display text and pattern in turn, separated by NULs
+    std::string lpstrFile =
+        {};  // receives the result, of any length, up to the first two NULs in a row
     std::string lpstrInitialDir;  // start folder; the system chooses if it is empty or missing
     std::string lpstrTitle;
     std::uint32_t Flags = 0;
 };
 
 /// Lets the user choose files to open. The result is one full path or, with OfnAllowMultiSelect and
-/// several files, the folder and the bare names, separated by NULs; two NULs end it. Starts with
-/// the first entry of the filter and an empty name. Returns false on Cancel and if the result has
-/// more than nMaxFile - 2 characters.
+/// several files, the folder and the bare names, separated by NULs. Starts with the first entry of
+/// the filter and an empty name. Returns false on Cancel.
 [[nodiscard]] bool GetOpenFileNameA(OpenFileName& record);
 /// The same for a file to write. With OfnOverwritePrompt an existing file has to be confirmed.
 [[nodiscard]] bool GetSaveFileNameA(OpenFileName& record);
@@ -46,8 +41,8 @@ struct BrowseInfo {
     std::string lpszTitle;  // a line of instruction
 };
 
-/// Lets the user choose a folder. Returns its path in a buffer of FolderBufferSize characters,
-/// padded with NULs, an empty text on Cancel, or a buffer of NULs for an item without a path.
+/// Lets the user choose a folder. Returns its path, or an empty text on Cancel and for an item
+/// without a path.
 [[nodiscard]] std::string BrowseForFolderPath(const BrowseInfo& info);
 
 /// The icons of a message box, with their Windows values.

@@ -40,11 +40,6 @@ void Answer(const std::string& text) {
     QTest::keyClick(Field(), Qt::Key_Return);
 }
 
-std::string Buffer(std::string text, std::size_t size = desktop::FileBufferSize) {
-    text.resize(size, '\0');
-    return text;
-}
-
 TEST(Dialogs, FillTheRecordWithTheFilesPicked) {
     const TempFolder folder;
     for (const char* name : {"a.wad", "B.WAD", "notes.txt", "sub/c.wad"}) {
@@ -72,8 +67,6 @@ TEST(Dialogs, FillTheRecordWithTheFilesPicked) {
         SCOPED_TRACE(row.typed);
         desktop::OpenFileName record = {
             .lpstrFilter = "WAD files (*.wad)\0*.wad\0All files (*.*)\0*.*"s,
-            .lpstrFile = Buffer(""),
-            .nMaxFile = desktop::FileBufferSize,
             .lpstrInitialDir = folder.Path(),
             .lpstrTitle = "Pick",
             .Flags = row.flags};
@@ -92,7 +85,7 @@ TEST(Dialogs, FillTheRecordWithTheFilesPicked) {
             });
         }
         EXPECT_EQ(row.show(record), !row.picked.empty());
-        EXPECT_EQ(record.lpstrFile, Buffer(row.picked));
+        EXPECT_EQ(record.lpstrFile, row.picked);
         EXPECT_EQ(wasAsked, row.flags == Prompt);
     }
 }
@@ -106,7 +99,7 @@ TEST(Dialogs, ChooseFolders) {
             Answer(typed);
         });
         EXPECT_EQ(desktop::BrowseForFolderPath({nullptr, "Where?"}),
-                  typed.empty() ? "" : Buffer(folder.Path(), desktop::FolderBufferSize));
+                  typed.empty() ? "" : folder.Path());
     }
 }
 
@@ -132,20 +125,9 @@ TEST(Messages, AskForALine) {
         << "what was not touched keeps its bytes";
 }
 
-TEST(PickedFiles, FillTheBufferOfTheRecord) {
-    const std::string longName = "Z:\\" + std::string(desktop::FileBufferSize - 5, 'x');
-    const std::pair<std::vector<std::string>, std::string> cases[] = {
-        {{"Z:\\a.wad", "Z:\\b.wad"}, "Z:\\\0a.wad\0b.wad"s},
-        {{"Z:\\v\\a.wad", "Z:\\w\\b.wad"}, ""},
-        {{longName}, longName},
-        {{longName + "x"}, ""},
-    };
-    for (const auto& [paths, text] : cases) {
-        desktop::OpenFileName record;
-        record.nMaxFile = desktop::FileBufferSize;
-        EXPECT_EQ(desktop::StorePickedFiles(record, paths), !text.empty()) << text;
-        EXPECT_EQ(record.lpstrFile, Buffer(text));
-    }
+TEST(PickedFiles, AreOneText) {
+    EXPECT_EQ(desktop::PickedFiles({"Z:\\a.wad", "Z:\\b.wad"}), "Z:\\\0a.wad\0b.wad"s);
+    EXPECT_EQ(desktop::PickedFiles({"Z:\\v\\a.wad", "Z:\\w\\b.wad"}), "");
 }
 
 TEST(PickedFiles, FiltersPassOverCase) {

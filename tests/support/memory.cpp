@@ -26,12 +26,8 @@ namespace {
 
 bool AnswerFileDialog(desktop::OpenFileName& record) {
     machine.fileQuestions.push_back(record);
-    const std::string answer = Take(machine.files, record.lpstrTitle);
-    if (answer.empty() || answer.size() > record.nMaxFile - 2) {
-        return false;
-    }
-    std::ranges::copy(answer, record.lpstrFile.begin());
-    return true;
+    record.lpstrFile = Take(machine.files, record.lpstrTitle);
+    return !record.lpstrFile.empty();
 }
 
 }  // namespace

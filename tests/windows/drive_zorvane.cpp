@@ -51,6 +51,15 @@ void CheckReceived(const std::string& line, const std::string& what) {
     fs::remove(Native("port\\received.txt"));
 }
 
+/// Has 94 characters to Windows, but more than 256 bytes.
+std::string TooLongName() {
+    std::string name;
+    for (int i = 0; i < 90; ++i) {
+        name += i == 40 ? "\\" : "\xe6\xbc\xa2";
+    }
+    return name + ".wad";
+}
+
 void AddGameWad() {
     const std::string title = "Please select a game WAD";
     Press(Find(frmSetup.cmdAdd));
@@ -58,6 +67,8 @@ void AddGameWad() {
     Press(Find(frmSetup.cmdAdd));
     AnswerFileDialog(title, Write("wads\\patch.wad", MapWad("PWAD", {"E1M3"})));
     CheckMessage("Please select a game IWAD. The file you selected was a patch WAD.");
+    Press(Find(frmSetup.cmdAdd));
+    AnswerFileDialog(title, Write(TooLongName(), MapWad("IWAD", {"E1M1"})));
     Press(Find(frmSetup.cmdAdd));
     AnswerFileDialog(
         title, Write("wads\\Game \xc3\xa9\\doom1.wad", MapWad("IWAD", {"E1M1", "E1M2", "E1M3"})));

@@ -45,7 +45,8 @@ bool PickFiles(QFileDialog& dialog, OpenFileName& record) {
             paths.push_back(WindowsPathOf(file));
         }
     }
-    return StorePickedFiles(record, paths);
+    record.lpstrFile = PickedFiles(paths);
+    return !record.lpstrFile.empty();
 }
 
 /// Shows the instruction as the title, and also inside Qt's own dialog: some desktops hide titles.
@@ -90,12 +91,7 @@ std::string BrowseForFolderPath(const BrowseInfo& info) {
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
         return {};
     }
-    std::string path = WindowsPathOf(dialog.selectedFiles().constFirst());
-    if (path.size() >= FolderBufferSize) {
-        path.clear();
-    }
-    path.resize(FolderBufferSize, '\0');
-    return path;
+    return WindowsPathOf(dialog.selectedFiles().constFirst());
 }
 
 }  // namespace desktop

@@ -15,8 +15,11 @@ std::string FolderOf(const std::string& path) {
     return path.substr(0, isRoot ? slash + 1 : slash);
 }
 
-/// The folder and the bare names, separated by NULs; empty if the folders differ.
+/// The folder and the bare names, separated by NULs; empty without paths and if the folders differ.
 std::string FolderAndNames(const std::vector<std::string>& paths) {
+    if (paths.empty()) {
+        return {};
+    }
     std::string result = FolderOf(paths.front());
     for (const std::string& path : paths) {
         if (FolderOf(path) != FolderOf(paths.front())) {
@@ -36,14 +39,8 @@ std::string PatternsOf(const std::string& masks) {
 
 }  // namespace
 
-bool StorePickedFiles(OpenFileName& record, const std::vector<std::string>& paths) {
-    const std::string text = paths.empty()       ? std::string()
-                             : paths.size() == 1 ? paths.front()
-                                                 : FolderAndNames(paths);
-    const bool fits = !text.empty() && text.size() + 2 <= record.nMaxFile;
-    record.lpstrFile = fits ? text : std::string();
-    record.lpstrFile.resize(record.nMaxFile, '\0');
-    return fits;
+std::string PickedFiles(const std::vector<std::string>& paths) {
+    return paths.size() == 1 ? paths.front() : FolderAndNames(paths);
 }
 
 QStringList NameFilters(const std::string& filter) {

@@ -10,10 +10,9 @@
 
 namespace desktop {
 
-/// Stores full Windows paths in the record's buffer: a single one as it is, several as their folder
-/// and bare names. Returns false, with an empty buffer, if there are none, if they do not fit, or
-/// if their folders differ.
-bool StorePickedFiles(OpenFileName& record, const std::vector<std::string>& paths);
+/// Returns full Windows paths as one text: a single one as it is, several as their folder and bare
+/// names, separated by NULs. Empty if there are none or if their folders differ.
+std::string PickedFiles(const std::vector<std::string>& paths);
 
 /// Converts the filter of a record to Qt's name filters. Qt takes the patterns from the last
 /// parentheses. They match lower and upper case.

@@ -1,7 +1,7 @@
 #include <cstddef>
-#include <utility>
 
 #include "platform/win32/com.h"
+#include "platform/win32/text.h"
 #include "toolkit/dialogs.h"
 #include "toolkit/win32/native_windows.h"
 
@@ -9,7 +9,7 @@ namespace desktop {
 namespace {
 
 /// Size of the record without the members that Windows 2000 added.
-constexpr DWORD RecordSize = offsetof(OPENFILENAMEA, lpTemplateName) + sizeof(LPCSTR);
+constexpr DWORD RecordSize = offsetof(OPENFILENAMEW, lpTemplateName) + sizeof(LPCWSTR);
 static_assert(sizeof(void*) != 4 || RecordSize == 76);
 
 void FreeItem(LPITEMIDLIST item) {
@@ -17,63 +17,59 @@ void FreeItem(LPITEMIDLIST item) {
 }
 using Item = platform::Owned<LPITEMIDLIST, FreeItem>;
 
-using Dialog = BOOL(WINAPI*)(OPENFILENAMEA*);
+using Dialog = BOOL(WINAPI*)(OPENFILENAMEW*);
 
 HWND HandleOf(const toolkit::Window* window) {
     const NativeWindow* native = window != nullptr ? FindNative(*window) : nullptr;
     return native != nullptr ? native->Handle() : nullptr;
 }
 
-/// Runs one of the two file dialogs of Windows.
+/// Fills in the native record, runs one of the two dialogs, and stores its result.
 bool Run(Dialog dialog, OpenFileName& record) {
-    const std::string filter = record.lpstrFilter + std::string(2, '\0');
-    std::string file = record.lpstrFile;
-    file.resize(record.nMaxFile);
-    OPENFILENAMEA native = {};
+    // Far more than the caller accepts: a dialog may cut off a result that does not fit.
+    constexpr DWORD BufferSize = 0x8000;
+    std::wstring file(BufferSize, L'\0');
+    const std::wstring filter = platform::Wide(record.lpstrFilter) + std::wstring(2, L'\0');
+    const std::wstring folder = platform::Wide(record.lpstrInitialDir);
+    const std::wstring title = platform::Wide(record.lpstrTitle);
+    OPENFILENAMEW native = {};
     native.lStructSize = RecordSize;
     native.hwndOwner = HandleOf(record.hwndOwner);
     native.hInstance = ::GetModuleHandleW(nullptr);
     native.lpstrFilter = filter.c_str();
     native.lpstrFile = file.data();
-    native.nMaxFile = record.nMaxFile;
-    native.lpstrInitialDir = record.lpstrInitialDir.c_str();
-    native.lpstrTitle = record.lpstrTitle.c_str();
+    native.nMaxFile = BufferSize;
+    native.lpstrInitialDir = folder.c_str();
+    native.lpstrTitle = title.c_str();
     native.Flags = record.Flags;
-    // Windows accepts a result without room for the second NUL; here it is too long.
-    const bool confirmed =
-        dialog(&native) && file.find(std::string_view("\0\0", 2)) != std::string::npos;
-    if (confirmed) {
-        record.lpstrFile = std::move(file);
+    if (!dialog(&native)) {
+        return false;
     }
-    return confirmed;
+    record.lpstrFile = platform::Bytes(file);
+    return true;
 }
 
 }  // namespace
 
 bool GetOpenFileNameA(OpenFileName& record) {
-    return Run(LATE(comdlg32, GetOpenFileNameA), record);
+    return Run(LATE(comdlg32, GetOpenFileNameW), record);
 }
 
 bool GetSaveFileNameA(OpenFileName& record) {
-    return Run(LATE(comdlg32, GetSaveFileNameA), record);
+    return Run(LATE(comdlg32, GetSaveFileNameW), record);
 }
 
 std::string BrowseForFolderPath(const BrowseInfo& info) {
     const platform::ComApartment apartment;
-    BROWSEINFOA native = {};
+    const std::wstring title = platform::Wide(info.lpszTitle);
+    BROWSEINFOW native = {};
     native.hwndOwner = HandleOf(info.hwndOwner);
-    native.lpszTitle = info.lpszTitle.c_str();
+    native.lpszTitle = title.c_str();
     native.ulFlags = BIF_RETURNONLYFSDIRS;
-    const Item item(LATE(shell32, SHBrowseForFolderA)(&native));
-    if (item == nullptr) {
-        return {};
-    }
-    static_assert(FolderBufferSize >= MAX_PATH);
-    std::string folder(FolderBufferSize, '\0');
-    if (!LATE(shell32, SHGetPathFromIDListA)(item.get(), folder.data())) {
-        folder.assign(FolderBufferSize, '\0');
-    }
-    return folder;
+    const Item item(LATE(shell32, SHBrowseForFolderW)(&native));
+    wchar_t folder[MAX_PATH] = L"";
+    const bool hasPath = item != nullptr && LATE(shell32, SHGetPathFromIDListW)(item.get(), folder);
+    return hasPath ? platform::Bytes(folder) : std::string();
 }
 
 }  // namespace desktop
