@@ -28,6 +28,8 @@ class File {
 
     /// A closed file.
     File() = default;
+    /// Takes over a descriptor of the C runtime.
+    explicit File(int descriptor) : handle_(descriptor) {}
     File(File&& other) noexcept : handle_(std::exchange(other.handle_, -1)) {}
     File& operator=(File&& other) noexcept {
         std::swap(handle_, other.handle_);
@@ -77,12 +79,13 @@ std::optional<std::string> LookUpFileName(const std::string& path);
 /// in case-insensitive name order. Empty if there is no such directory.
 std::vector<std::string> ListFiles(const std::string& directory, const std::string& pattern);
 
-/// Reads all bytes of a regular file. `bytes` is empty on failure.
+/// Reads all bytes of a regular file. Fails if it is larger than 64 MiB. `bytes` is empty on
+/// failure.
 Outcome ReadWholeFile(const std::string& path, std::string& bytes);
 
 /// Writes a file atomically: writes a temporary file beside it, flushes that and renames it over
-/// the target. A failure leaves the old file whole. Follows links, and keeps the permissions of an
-/// existing file.
+/// the target. A failure leaves the old file whole. Fails above 64 MiB. Follows links, and keeps
+/// the permissions of an existing file.
 Outcome ReplaceWholeFile(const std::string& path, std::string_view bytes);
 
 /// Copies the content of one file over another, atomically as ReplaceWholeFile. Fails if both are

@@ -100,6 +100,29 @@ TEST(WholeFiles, TakeThePlaceOfTheOldOne) {
     EXPECT_EQ(read, "");
 }
 
+TEST(WholeFiles, TakeTheRemainsOfKilledRunsAway) {
+    const TempFolder folder;
+    const std::string path = folder.Path("a.cfg");
+    folder.Write(".zorvane-99999999-0123", "no process has this id");
+    folder.Write(".zorvane-notes", "no temporary file");
+    EXPECT_FALSE(platform::ReplaceWholeFile(folder.Path("none/a.cfg"), "x"));
+    EXPECT_EQ(folder.Count(), 2);
+    EXPECT_TRUE(platform::ReplaceWholeFile(path, "new"));
+    EXPECT_EQ(folder.Count(), 2);
+}
+
+TEST(WholeFiles, AreRefusedAbove64MiB) {
+    const TempFolder folder;
+    const std::string path = folder.Write("a.cfg", "old");
+    EXPECT_NE(platform::ReplaceWholeFile(path, std::string((64 << 20) + 1, 'x')).reason, "");
+    EXPECT_EQ(folder.Read("a.cfg"), "old");
+    File file;
+    EXPECT_TRUE(file.Open(path, File::Access::ReadWrite));
+    EXPECT_TRUE(file.WriteAt(std::int64_t{64} << 20, "x"));
+    std::string read;
+    EXPECT_NE(platform::ReadWholeFile(path, read).reason, "");
+}
+
 TEST(WholeFiles, AreCopiedAndRemoved) {
     const TempFolder folder;
     const std::string bytes(200000, 'd');

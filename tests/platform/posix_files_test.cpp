@@ -64,6 +64,9 @@ TEST(PosixFiles, ReplacingKeepsRightsAndFollowsLinks) {
         EXPECT_EQ(fs::status(folder.Native(real)).permissions(), fs::perms(rights));
     }
     umask(mask);
+    fs::create_symlink("real/loop", folder.Native("loop"));
+    fs::create_symlink("../loop", folder.Native("real/loop"));
+    EXPECT_NE(platform::ReplaceWholeFile(folder.Path("loop"), "x").reason, "");
     fs::create_hard_link(folder.Native("real/a.cfg"), folder.Native("same"));
     EXPECT_FALSE(platform::CopyWholeFile(folder.Path("a.cfg"), folder.Path("same")));
 }

@@ -3,6 +3,7 @@
 
 #include "platform/files.h"
 #include "platform/shell.h"
+#include "platform/win32/replace_file.h"
 #include "platform/win32/text.h"
 #include "platform/win32/windows_headers.h"
 #include "support/temp_folder.h"
@@ -42,6 +43,52 @@ TEST(WindowsFiles, KeepToTheirAttributes) {
     EXPECT_EQ(folder.Count(), 1);
     SetFileAttributesW(Wide(path).c_str(), FILE_ATTRIBUTE_NORMAL);
     EXPECT_FALSE(platform::File().Open("NUL", platform::File::Access::Read));
+}
+
+/// The calls that MoveOver makes, each failing with an error of its own at first.
+struct FailingCalls {
+    std::vector<DWORD> replaceErrors;
+    std::vector<DWORD> moveErrors;
+    DWORD slept = 0;
+    std::string done = {};
+};
+FailingCalls* failing = nullptr;
+
+BOOL Next(std::vector<DWORD>& errors, const char* call) {
+    if (!errors.empty()) {
+        SetLastError(errors.front());
+        errors.erase(errors.begin());
+        return FALSE;
+    }
+    failing->done += call;
+    return TRUE;
+}
+
+TEST(WindowsFiles, AreReplacedInSpiteOfErrorsThatPass) {
+    const platform::ReplaceCalls calls = {
+        [](const wchar_t*, const wchar_t*, const wchar_t*, DWORD, void*, void*) {
+            return Next(failing->replaceErrors, "replaced");
+        },
+        [](const wchar_t*, const wchar_t*, DWORD) { return Next(failing->moveErrors, "moved"); },
+        [](DWORD milliseconds) { failing->slept += milliseconds; },
+    };
+    const std::vector<DWORD> forever(1000, ERROR_SHARING_VIOLATION);
+    const std::pair<FailingCalls, const char*> rows[] = {
+        {{{5, 32, 33, 1175}, {}}, "replaced"},
+        {{{1176}, {}}, "moved"},
+        {{{32, 1177, 2}, {5}}, "moved"},
+        {{{ERROR_INVALID_FUNCTION}, {}}, "moved"},
+        {{forever, {}}, "moved"},
+        {{forever, forever}, ""},
+        {{{1176}, {ERROR_DISK_FULL}}, ""},
+    };
+    for (auto [row, done] : rows) {
+        failing = &row;
+        const platform::Outcome outcome = platform::MoveOver(L"new", L"old", calls);
+        EXPECT_EQ(row.done, done);
+        EXPECT_EQ(outcome.reason.empty(), outcome.ok);
+        EXPECT_LE(row.slept, 2000U);
+    }
 }
 
 TEST(WindowsShell, DoesNotWaitForAProcessThatIsNone) {

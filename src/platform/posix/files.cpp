@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "platform/posix/descriptor.h"
+#include "platform/posix/paths.h"
 
 namespace platform {
 namespace {
@@ -62,6 +63,14 @@ std::int64_t File::Size() const {
 
 Outcome File::Seek(std::int64_t position) const {
     return lseek(handle_, position, SEEK_SET) == position ? Outcome{} : Failure(errno);
+}
+
+Outcome RemoveFile(const std::string& path) {
+    const std::optional<std::string> native = FindPath(path);
+    if (!native) {
+        return Failure(ENOENT);
+    }
+    return unlink(native->c_str()) == 0 ? Outcome{} : Failure(errno);
 }
 
 }  // namespace platform

@@ -1,4 +1,4 @@
-// Native file handles, for the sources behind platform/files.h alone.
+// Native file handles, for the sources of platform/files.h.
 #pragma once
 
 #include <string>
@@ -8,10 +8,13 @@
 
 namespace platform {
 
-/// A failure with the reason that Windows gave last.
+/// The failure of the last system call.
 Outcome LastError();
 
-/// Opens a file on a disk, shared with every other program. A folder, pipe or device is refused.
+/// The handle of an open file, INVALID_HANDLE_VALUE of a closed one.
+HANDLE NativeHandle(const File& file);
+
+/// Opens a file on a disk, shared with every other program. A folder, pipe or device is a failure.
 /// `access` and `disposition` as CreateFile takes them.
 Outcome OpenRegularFile(const std::string& path, DWORD access, DWORD disposition,
                         OwnedHandle& file);

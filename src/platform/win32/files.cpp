@@ -9,12 +9,6 @@
 namespace platform {
 namespace {
 
-/// The handle behind a descriptor of the C runtime, which must not see -1.
-HANDLE Native(int descriptor) {
-    return descriptor < 0 ? INVALID_HANDLE_VALUE
-                          : reinterpret_cast<HANDLE>(_get_osfhandle(descriptor));
-}
-
 OVERLAPPED At(std::int64_t position) {
     OVERLAPPED place = {};
     place.Offset = static_cast<DWORD>(position);
@@ -29,6 +23,12 @@ DWORD Piece(std::size_t size) {
 }
 
 }  // namespace
+
+HANDLE NativeHandle(const File& file) {
+    // The C runtime ends the program that asks it about -1.
+    return file.IsOpen() ? reinterpret_cast<HANDLE>(_get_osfhandle(file.Handle()))
+                         : INVALID_HANDLE_VALUE;
+}
 
 Outcome LastError() {
     return {false, ErrorText(::GetLastError())};
@@ -84,7 +84,7 @@ Outcome File::ReadAt(std::int64_t position, void* buffer, std::size_t size,
     while (count < size) {
         OVERLAPPED place = At(position + static_cast<std::int64_t>(count));
         DWORD read = 0;
-        const bool done = ::ReadFile(Native(handle_), static_cast<char*>(buffer) + count,
+        const bool done = ::ReadFile(NativeHandle(*this), static_cast<char*>(buffer) + count,
                                      Piece(size - count), &read, &place) != 0;
         if (!done && ::GetLastError() != ERROR_HANDLE_EOF) {
             count = 0;
@@ -102,7 +102,8 @@ Outcome File::WriteAt(std::int64_t position, std::string_view bytes) {
     while (!bytes.empty()) {
         OVERLAPPED place = At(position);
         DWORD written = 0;
-        if (!::WriteFile(Native(handle_), bytes.data(), Piece(bytes.size()), &written, &place)) {
+        if (!::WriteFile(NativeHandle(*this), bytes.data(), Piece(bytes.size()), &written,
+                         &place)) {
             return LastError();
         }
         bytes.remove_prefix(written);
@@ -112,12 +113,12 @@ Outcome File::WriteAt(std::int64_t position, std::string_view bytes) {
 }
 
 Outcome File::Flush() {
-    return ::FlushFileBuffers(Native(handle_)) ? Outcome{} : LastError();
+    return ::FlushFileBuffers(NativeHandle(*this)) ? Outcome{} : LastError();
 }
 
 std::int64_t File::Size() const {
     LARGE_INTEGER size = {};
-    return ::GetFileSizeEx(Native(handle_), &size) ? size.QuadPart : 0;
+    return ::GetFileSizeEx(NativeHandle(*this), &size) ? size.QuadPart : 0;
 }
 
 Outcome File::Seek(std::int64_t position) const {
@@ -125,6 +126,10 @@ Outcome File::Seek(std::int64_t position) const {
         return {false, ErrorText(ERROR_SEEK)};
     }
     return {};
+}
+
+Outcome RemoveFile(const std::string& path) {
+    return ::DeleteFileW(Wide(path).c_str()) ? Outcome{} : LastError();
 }
 
 }  // namespace platform
