@@ -9,8 +9,8 @@
 
 namespace {
 
-/// Timeout of one wait for the process, between which events are handled.
-constexpr std::uint32_t WaitMilliseconds = 10;
+/// A program that ends within this time is waited for without handling events.
+constexpr std::uint32_t ShortestRunMilliseconds = 10;
 
 }  // namespace
 
@@ -24,11 +24,10 @@ int RunProgram(std::string& fileName, const std::string& parameters, int showCom
     info.lpParameters = parameters;
     info.lpDirectory = FolderOfFile(fileName);
     info.nShow = showCommand;
-    const bool accepted = platform::ShellExecuteExA(info);
-    if (wait && info.hProcess) {
-        while (platform::WaitForSingleObject(info.hProcess, WaitMilliseconds) != 0) {
-            desktop::DoEvents();
-        }
+    const platform::Outcome accepted = platform::ShellExecuteExA(info);
+    if (wait && info.hProcess &&
+        platform::WaitForSingleObject(info.hProcess, ShortestRunMilliseconds) != 0) {
+        desktop::RunEventsUntilEnd(info.hProcess);
     }
     return accepted ? 1 : 0;
 }

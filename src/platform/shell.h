@@ -1,15 +1,16 @@
-// Programs, documents and web pages: the one way out of the system, with the record of the Windows
-// shell in portable form.
+// Starts programs and opens documents and web pages.
 #pragma once
 
 #include <cstdint>
 #include <string>
 #include <utility>
 
+#include "platform/outcome.h"
+
 namespace platform {
 
-/// Owns the handle of a started process: a Windows handle or a Linux pidfd. -1 holds none.
-/// Letting go of it does nothing to the process.
+/// Owns the handle of a started process: a Windows handle or a Linux pidfd, -1 for none. Closing it
+/// does nothing to the process.
 class ProcessHandle {
   public:
     ProcessHandle() = default;
@@ -30,28 +31,27 @@ class ProcessHandle {
     std::intptr_t handle_ = -1;
 };
 
-/// What ShellExecuteExA takes and gives. Members that Windows has and this system leaves at 0 are
-/// not here.
+/// The Windows record in portable form, without the members that Zorvane leaves at 0.
 struct ShellExecuteInfo {
     std::uint32_t fMask = 0;   // SeeMaskNoCloseProcess asks for hProcess
     std::string lpFile;        // program, document or URL
-    std::string lpParameters;  // one text; blanks part it, double quotes group, nothing escapes
+    std::string lpParameters;  // separated by spaces, grouped by double quotes, without escapes
     std::string lpDirectory;   // working directory
-    int nShow = 0;             // a Windows show state; Linux has none and passes over it
-    ProcessHandle hProcess;    // filled when a process was started
+    int nShow = 0;             // a Windows show state; ignored on Linux
+    ProcessHandle hProcess;    // receives the started process
 };
 
 inline constexpr std::uint32_t SeeMaskNoCloseProcess = 64;
 
-/// Opens lpFile by its default verb: a program starts with the parameters in the directory, a
-/// document or URL goes to the program that the desktop has for it. Gives whether that was
-/// accepted, at once; never waits for the started program. On Linux a program name that ends in
-/// `.exe` and is not there stands for the name without it, and an argument that begins with `Z:\`
-/// becomes a native path.
-bool ShellExecuteExA(ShellExecuteInfo& info);
+/// Opens lpFile by its default verb: starts a program with the parameters in the directory, or
+/// passes a document or URL to the desktop's program for it. Returns at once whether that was
+/// accepted. On Linux a document is told from a program by its extension first and its execute
+/// permission second; if `foo.exe` is missing, `foo` is started; and a parameter that begins with
+/// `Z:\` becomes a native path.
+Outcome ShellExecuteExA(ShellExecuteInfo& info);
 
-/// Waits for the end of a process, at most the given time. Gives 0 when it has ended, 258 when the
-/// time ran out, another number on failure. Takes no processor time while it waits.
+/// Waits until a process has ended, at most the given time. Returns 0 if it has ended, 258 if the
+/// time is over, another number on failure.
 std::uint32_t WaitForSingleObject(const ProcessHandle& process, std::uint32_t milliseconds);
 
 }  // namespace platform

@@ -1,4 +1,5 @@
-// The temporary file of an atomic replacement. Only whole_files.cpp uses it; the back end defines it.
+// The temporary file of an atomic replacement. Only whole_files.cpp uses it; the back end defines
+// it.
 #pragma once
 
 #include <cstdint>

@@ -20,6 +20,14 @@ std::vector<std::string> QuotedPaths(std::string_view commandLine) {
     return paths;
 }
 
+bool IsUrl(std::string_view text) {
+    constexpr std::string_view SchemeCharacters = "abcdefghijklmnopqrstuvwxyz0123456789+-.";
+    const std::size_t colon = text.find(':');
+    const std::string scheme = LowerCase(text.substr(0, colon));
+    return colon != std::string_view::npos && scheme.size() >= 2 && scheme[0] >= 'a' &&
+           scheme[0] <= 'z' && scheme.find_first_not_of(SchemeCharacters) == std::string::npos;
+}
+
 bool MatchesPattern(std::string_view name, std::string_view pattern) {
     // On a mismatch, the last `*` takes one more character and matching resumes after it. Earlier
     // ones need no second try, so the time is at most the product of both lengths.

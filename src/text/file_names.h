@@ -11,6 +11,9 @@ std::string JoinPath(std::string_view directory, std::string_view name);
 /// Returns the texts between double quotes, in order. Skips what is outside, and an unclosed quote.
 std::vector<std::string> QuotedPaths(std::string_view commandLine);
 
+/// Whether the text begins with the scheme of a URL, such as `https:`. One letter is a drive.
+bool IsUrl(std::string_view text);
+
 /// Whether the whole name matches the pattern: `*` matches any characters, `?` exactly one.
 bool MatchesPattern(std::string_view name, std::string_view pattern);
 

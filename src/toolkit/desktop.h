@@ -5,6 +5,10 @@
 
 #include <cstdint>
 
+namespace platform {
+class ProcessHandle;
+}
+
 namespace toolkit {
 class Control;
 class ListBox;
@@ -33,8 +37,10 @@ enum class Property {
 void StartDesktop();
 /// Handles the events that are pending, and returns.
 void DoEvents();
-/// Handles events until the process ends.
+/// Handles events until Zorvane ends.
 int RunEventLoop();
+/// Handles events until another process has ended. Does not wake up without an event.
+void RunEventsUntilEnd(const platform::ProcessHandle& process);
 
 /// Adds a window, hidden. The window that is added first is the main window: the end of the session
 /// is a close request to it. The functions below are no-ops for a window that is not loaded.

@@ -57,6 +57,10 @@ TEST(Files, OnlyRegularFilesAreOrdinary) {
     EXPECT_EQ(platform::LookUpFileName(folder.Path("sub/NAME.wad")), "Name.Wad");
     EXPECT_EQ(platform::LookUpFileName(folder.Path("sub")), "");
     EXPECT_EQ(platform::LookUpFileName("https://example.org/a.txt"), std::nullopt);
+    EXPECT_EQ(platform::LookUpFileName("X+1.-:"), std::nullopt);
+    for (const char* other : {"Y:\\a", "/a:b", "", "1a:", "a\\b:c", "plain"}) {
+        EXPECT_EQ(platform::LookUpFileName(other), "") << other;
+    }
 }
 
 TEST(Files, AreListedByPatternInNameOrder) {

@@ -167,13 +167,6 @@ TEST(Paths, AreFoundWhateverTheCase) {
     EXPECT_EQ(platform::FindProgram(folder.Path("port.exe")), std::nullopt);
 }
 
-TEST(Paths, UrlsAreTold) {
-    EXPECT_TRUE(platform::IsUrl("X+1.-:"));
-    for (const char* other : {R"(Z:\a)", "/a:b", "", "1a:", R"(a\b:c)", "plain"}) {
-        EXPECT_FALSE(platform::IsUrl(other)) << other;
-    }
-}
-
 TEST(Arguments, AreSplitAtBlanksOutsideQuotes) {
     EXPECT_EQ(platform::SplitArguments("   "), Strings());
     EXPECT_EQ(platform::SplitArguments(R"( -iwad  "a b.wad" "c" "" a"b c"d "open end)"),

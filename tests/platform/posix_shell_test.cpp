@@ -38,7 +38,7 @@ class Shell : public testing::Test {
         const bool isName = name.find(':') == std::string_view::npos;
         const std::string file = isName ? folder_.Path(name) : std::string(name);
         info_ = {platform::SeeMaskNoCloseProcess, file, parameters, directory, 0, {}};
-        return platform::ShellExecuteExA(info_);
+        return platform::ShellExecuteExA(info_).ok;
     }
 
     TempFolder folder_;
@@ -75,11 +75,14 @@ TEST_F(Shell, DocumentsFoldersAndUrlsGoToTheDesktop) {
     folder_.Write("Read me.txt", "text");
     folder_.Write("doc/bytes.dat", "no program, whatever its rights say");
     fs::permissions(folder_.Native("doc/bytes.dat"), fs::perms(0755));
+    WriteScript("evil.txt", "echo executed > said");
     WriteScript("bin/xdg-open", R"(printf '[%s]' "$PWD" "$@" > said.new; mv said.new said)");
     const std::string oldPath = std::getenv("PATH");
     setenv("PATH", (folder_.Native("bin").string() + ':' + oldPath).c_str(), 1);
     const std::pair<const char*, std::string> rows[] = {
         {"read me.TXT", folder_.Native("Read me.txt")},
+        {"evil.txt", folder_.Native("evil.txt")},
+        {"evil.txt.exe", folder_.Native("evil.txt")},
         {"doc", folder_.Native("doc")},
         {"doc/bytes.dat", folder_.Native("doc/bytes.dat")},
         {"https://example.org/?a b", "https://example.org/?a b"},
@@ -102,9 +105,15 @@ TEST_F(Shell, WhatCannotStartFailsAtOnce) {
     WriteScript("game", "");
     WriteScript("broken", "");
     folder_.Write("broken", "#!/no/such/interpreter\n");
-    for (const char* name : {"none.exe", "D:game", "broken"}) {
+    fs::create_symlink("loop", folder_.Native("loop"));
+    for (const char* name : {"none.exe", "D:game", "broken", "loop", "loop/game"}) {
         EXPECT_FALSE(Start(name)) << name;
     }
+    fs::create_directory(folder_.Native("closed"));
+    fs::permissions(folder_.Native("closed"), fs::perms::none);
+    EXPECT_FALSE(Start("closed/game.exe"));
+    fs::permissions(folder_.Native("closed"), fs::perms::owner_all);
+    EXPECT_FALSE(Start("game", "", folder_.Path("loop")));
     EXPECT_FALSE(Start("game", "", folder_.Path("none")));
     EXPECT_FALSE(info_.hProcess);
     EXPECT_EQ(WaitForSingleObject(info_.hProcess, 0), 0xFFFFFFFF);

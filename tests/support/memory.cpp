@@ -52,7 +52,7 @@ void EndProcess() {
 
 ProcessHandle::~ProcessHandle() = default;
 
-bool ShellExecuteExA(ShellExecuteInfo& info) {
+Outcome ShellExecuteExA(ShellExecuteInfo& info) {
     machine.started.push_back({info.lpFile, info.lpParameters, info.lpDirectory, info.nShow});
     if (machine.accepts) {
         info.hProcess = ProcessHandle(0);
@@ -60,12 +60,12 @@ bool ShellExecuteExA(ShellExecuteInfo& info) {
             machine.program(machine.started.back());
         }
     }
-    return machine.accepts;
+    return {machine.accepts, machine.accepts ? "" : "refused"};
 }
 
 std::uint32_t WaitForSingleObject(const ProcessHandle&, std::uint32_t) {
     constexpr std::uint32_t TimeOut = 258;
-    return machine.rounds-- > 0 ? TimeOut : 0;
+    return machine.rounds > 0 ? TimeOut : 0;
 }
 
 }  // namespace platform

@@ -78,6 +78,12 @@ void DoEvents() {
     }
 }
 
+void RunEventsUntilEnd(const platform::ProcessHandle&) {
+    while (machine.rounds-- > 0) {
+        DoEvents();
+    }
+}
+
 }  // namespace desktop
 
 namespace driver {

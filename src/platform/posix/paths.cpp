@@ -132,12 +132,4 @@ std::string NativeText(std::string_view text) {
     return shown;
 }
 
-bool IsUrl(std::string_view text) {
-    const std::size_t colon = text.find(':');
-    return colon != std::string_view::npos && colon >= 2 && IsLetter(text[0]) &&
-           text.find_first_not_of(
-               "abcdefghijklmnopqrstuvwxyz"
-               "ABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789+-.") == colon;
-}
-
 }  // namespace platform

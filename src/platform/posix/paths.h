@@ -31,7 +31,4 @@ std::string WindowsPath(std::string_view native);
 /// What a person is shown: in each line everything from a `Z:\` on as a native path.
 std::string NativeText(std::string_view text);
 
-/// Whether the text begins with a scheme such as `https:`. One letter is a drive, not a scheme.
-bool IsUrl(std::string_view text);
-
 }  // namespace platform

@@ -1,6 +1,7 @@
 #include "platform/shell.h"
 
 #include <poll.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -14,13 +15,23 @@
 #include <vector>
 
 #include "platform/posix/arguments.h"
+#include "platform/posix/descriptor.h"
 #include "platform/posix/paths.h"
 #include "platform/posix/spawn.h"
+#include "text/ascii.h"
+#include "text/file_names.h"
 
 namespace platform {
 namespace {
 
-/// The desktop's own program for opening a document or URL, from the folders of PATH.
+namespace fs = std::filesystem;
+
+/// The outcome for an `errno` value, 0 for success.
+Outcome StartFailure(int error) {
+    return error == 0 ? Outcome{} : Failure(error);
+}
+
+/// The desktop's program for opening a document or URL, from the folders of PATH.
 std::optional<std::string> Opener() {
     const char* path = std::getenv("PATH");
     std::istringstream folders(path != nullptr ? path : "/usr/local/bin:/usr/bin:/bin");
@@ -33,23 +44,41 @@ std::optional<std::string> Opener() {
     return std::nullopt;
 }
 
-bool OpenOnDesktop(const std::string& target, const std::string& folder) {
+Outcome OpenOnDesktop(const std::string& target, const std::string& folder) {
     const std::optional<std::string> opener = Opener();
-    return opener && Spawn({*opener, target}, folder).error == 0;
+    return opener ? StartFailure(Spawn({*opener, target}, folder).error)
+                  : Outcome{false, "There is no xdg-open to open it with"};
 }
 
-bool IsProgram(const std::string& native) {
-    return !std::filesystem::is_directory(native) && access(native.c_str(), X_OK) == 0;
+/// Whether the name is that of a document. An archive, or a disk of Windows, gives every file the
+/// permission to execute, so the permission says nothing about these kinds.
+bool IsDocument(std::string_view path) {
+    constexpr std::string_view Extensions[] = {
+        ".txt", ".md",  ".rtf", ".doc", ".odt", ".pdf", ".htm", ".html", ".log", ".cfg", ".ini",
+        ".deh", ".bex", ".wad", ".lmp", ".pk3", ".pk7", ".zip", ".7z",   ".png", ".jpg",
+    };
+    return std::ranges::any_of(Extensions, [path](std::string_view extension) {
+        return EndsWithIgnoringCase(path, extension);
+    });
 }
 
-std::string Absolute(const std::string& native) {
-    return std::filesystem::absolute(native);
+bool IsExecutable(const std::string& path) {
+    struct stat facts = {};
+    return stat(path.c_str(), &facts) == 0 && S_ISREG(facts.st_mode) &&
+           access(path.c_str(), X_OK) == 0;
 }
 
-/// The file that `path` names, whatever its kind, or the program that stands for it.
-std::optional<std::string> WhatToOpen(const std::string& path) {
-    const std::optional<std::string> program = FindProgram(path);
-    return program ? program : FindPath(path);
+/// The absolute native path of the program, or else of whatever `path` names.
+std::optional<std::string> FindTarget(const std::string& path) {
+    std::optional<std::string> found = FindProgram(path);
+    if (!found) {
+        found = FindPath(path);
+    }
+    std::error_code error;
+    if (found) {
+        *found = fs::absolute(*found, error);
+    }
+    return error ? std::nullopt : found;
 }
 
 }  // namespace
@@ -60,60 +89,59 @@ ProcessHandle::~ProcessHandle() {
     }
 }
 
-bool ShellExecuteExA(ShellExecuteInfo& info) {
+Outcome ShellExecuteExA(ShellExecuteInfo& info) {
     info.hProcess = ProcessHandle();
     const std::optional<std::string> folder =
         info.lpDirectory.empty() ? "" : FindPath(info.lpDirectory);
     if (!folder) {
-        return false;
+        return Failure(ENOENT);
     }
     if (IsUrl(info.lpFile)) {
         return OpenOnDesktop(info.lpFile, *folder);
     }
-    std::optional<std::string> file = WhatToOpen(info.lpFile);
+    const std::optional<std::string> file = FindTarget(info.lpFile);
     if (!file) {
-        return false;
+        return Failure(ENOENT);
     }
-    file = Absolute(*file);
-    if (IsProgram(*file)) {
-        std::vector<std::string> arguments = SplitArguments(info.lpParameters);
-        arguments.insert(arguments.begin(), *file);
-        Spawned process = Spawn(arguments, *folder);
-        // What the system cannot run, for all its rights, is a document (files on a Windows disk
-        // all have the right to run).
-        if (process.error != ENOEXEC) {
-            if ((info.fMask & SeeMaskNoCloseProcess) != 0) {
-                info.hProcess = std::move(process.handle);
-            }
-            return process.error == 0;
-        }
+    if (IsDocument(*file) || !IsExecutable(*file)) {
+        return OpenOnDesktop(*file, *folder);
     }
-    return OpenOnDesktop(*file, *folder);
+    std::vector<std::string> arguments = SplitArguments(info.lpParameters);
+    arguments.insert(arguments.begin(), *file);
+    Spawned process = Spawn(arguments, *folder);
+    // The file has the permission to execute and is no program after all.
+    if (process.error == ENOEXEC) {
+        return OpenOnDesktop(*file, *folder);
+    }
+    if ((info.fMask & SeeMaskNoCloseProcess) != 0) {
+        info.hProcess = std::move(process.handle);
+    }
+    return StartFailure(process.error);
 }
 
 std::uint32_t WaitForSingleObject(const ProcessHandle& process, std::uint32_t milliseconds) {
-    constexpr std::uint32_t ended = 0;
-    constexpr std::uint32_t timedOut = 258;
-    constexpr std::uint32_t failed = 0xFFFFFFFF;
-    constexpr std::uint32_t forever = 0xFFFFFFFF;
+    constexpr std::uint32_t Ended = 0;
+    constexpr std::uint32_t TimedOut = 258;
+    constexpr std::uint32_t Failed = 0xFFFFFFFF;
+    constexpr std::uint32_t Forever = 0xFFFFFFFF;
     using Clock = std::chrono::steady_clock;
     const auto end = Clock::now() + std::chrono::milliseconds(milliseconds);
     pollfd waited = {static_cast<int>(process.Native()), POLLIN, 0};
     if (!process) {
-        return failed;
+        return Failed;
     }
     for (;;) {
         const auto left = std::chrono::ceil<std::chrono::milliseconds>(end - Clock::now()).count();
-        const int patience = static_cast<int>(std::clamp<long long>(left, 0, INT_MAX));
-        const int count = poll(&waited, 1, milliseconds == forever ? -1 : patience);
+        const int timeout = static_cast<int>(std::clamp<long long>(left, 0, INT_MAX));
+        const int count = poll(&waited, 1, milliseconds == Forever ? -1 : timeout);
         if (count > 0) {
-            return (waited.revents & POLLIN) != 0 ? ended : failed;
+            return (waited.revents & POLLIN) != 0 ? Ended : Failed;
         }
         if (count == 0) {
-            return timedOut;
+            return TimedOut;
         }
         if (errno != EINTR) {
-            return failed;
+            return Failed;
         }
     }
 }

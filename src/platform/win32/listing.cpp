@@ -31,12 +31,6 @@ void Search(const std::string& path, Take take) {
     } while (::FindNextFileW(search.get(), &found));
 }
 
-/// Whether the text begins with a scheme such as `https:`. One letter is a drive, not a scheme.
-bool IsUrl(const std::string& text) {
-    const std::size_t colon = text.find(':');
-    return colon != std::string::npos && colon > 1;
-}
-
 }  // namespace
 
 bool IsOrdinaryFile(const std::string& path) {

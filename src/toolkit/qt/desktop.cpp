@@ -1,8 +1,11 @@
 #include "toolkit/desktop.h"
 
 #include <QApplication>
+#include <QEventLoop>
+#include <QSocketNotifier>
 #include <QWindow>
 
+#include "platform/shell.h"
 #include "toolkit/qt/controls.h"
 #include "toolkit/qt/look.h"
 #include "toolkit/qt/native_windows.h"
@@ -35,6 +38,18 @@ void DoEvents() {
 
 int RunEventLoop() {
     return RunWatchedEventLoop();
+}
+
+void RunEventsUntilEnd(const platform::ProcessHandle& process) {
+    QEventLoop loop;
+    // A pidfd is readable for ever once its process has ended. A loop around a later recording's
+    // would wake up for it again and again.
+    QSocketNotifier end(process.Native(), QSocketNotifier::Read);
+    QObject::connect(&end, &QSocketNotifier::activated, &loop, [&] {
+        end.setEnabled(false);
+        loop.quit();
+    });
+    loop.exec();
 }
 
 void LoadWindow(toolkit::Window& window) {

@@ -1,5 +1,6 @@
 #include "toolkit/win32/event_loop.h"
 
+#include "platform/shell.h"
 #include "toolkit/desktop.h"
 #include "toolkit/lists.h"
 #include "toolkit/win32/native_windows.h"
@@ -46,6 +47,19 @@ void Dispatch(MSG& message) {
     }
 }
 
+/// Handles the messages in the queue. Returns false if one of them ends the program.
+bool HandlePending() {
+    MSG message = {};
+    while (::PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
+        if (message.message == WM_QUIT) {
+            ::PostQuitMessage(static_cast<int>(message.wParam));  // for the outer loops
+            return false;
+        }
+        Dispatch(message);
+    }
+    return true;
+}
+
 }  // namespace
 
 int RunMessages(const std::function<bool()>& isRunning) {
@@ -61,18 +75,20 @@ int RunMessages(const std::function<bool()>& isRunning) {
 }
 
 void DoEvents() {
-    MSG message = {};
-    while (::PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
-        if (message.message == WM_QUIT) {
-            ::PostQuitMessage(static_cast<int>(message.wParam));
-            return;
-        }
-        Dispatch(message);
-    }
+    HandlePending();
 }
 
 int RunEventLoop() {
     return RunMessages([] { return true; });
+}
+
+void RunEventsUntilEnd(const platform::ProcessHandle& process) {
+    auto* const handle = reinterpret_cast<HANDLE>(process.Native());
+    constexpr DWORD Message = WAIT_OBJECT_0 + 1;
+    while (::MsgWaitForMultipleObjectsEx(1, &handle, INFINITE, QS_ALLINPUT, MWMO_INPUTAVAILABLE) ==
+               Message &&
+           HandlePending()) {
+    }
 }
 
 }  // namespace desktop
