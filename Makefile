@@ -4,7 +4,7 @@ MAKEFLAGS += --no-print-directory
 INSTALL := $(if $(NO_INSTALL),@:,@scripts/install-packages)
 SECONDS_PER_TARGET ?= 60
 
-.PHONY: help run prepare-run tour test sanitize bench fuzz windows test-windows bench-windows \
+.PHONY: help run tour test sanitize bench fuzz windows test-windows bench-windows \
 	package test-package format lint clean
 
 help:
@@ -21,21 +21,20 @@ help:
 	@echo 'make test-package  install, try and purge the Debian package on this machine'
 	@echo 'make format        format every source'
 	@echo 'make lint          check layers, format and clang-tidy'
-	@echo 'make clean         remove build/ and dist/'
+	@echo 'make clean         remove build/ and dist/, and keep your settings in run/'
 	@echo 'With NO_INSTALL=1 nothing is installed.'
 
-run: prepare-run
-	@if [ -n "$$DISPLAY$$WAYLAND_DISPLAY" ]; then build/run/zorvane; else $(MAKE) tour; fi
-
-# build/run: a program folder with settings that name the engines and free games of this machine.
-prepare-run:
+# The player's files are kept in run/, which `make clean` leaves alone.
+run:
 	$(INSTALL) build desktop engines
 	cmake --preset release -DZORVANE_TESTS=OFF
 	cmake --build build/release --target zorvane
-	scripts/prepare-run build/release/src/zorvane build/run
+	cmake --install build/release --prefix build/installed >/dev/null
+	@if [ -n "$$DISPLAY$$WAYLAND_DISPLAY" ]; then \
+		ZORVANE_HOME='$(CURDIR)/run' build/installed/bin/zorvane; else $(MAKE) tour; fi
 
-tour: prepare-run
-	$(INSTALL) test display
+tour:
+	$(INSTALL) build desktop engines test display
 	cmake --preset release -DZORVANE_TESTS=ON
 	cmake --build build/release --target zorvane_tour
 	scripts/run-tour build/release/tests/e2e/zorvane_tour build/tour
@@ -97,7 +96,7 @@ package:
 	packaging/debian/pack
 
 test-package: package
-	$(INSTALL) display
+	$(INSTALL) engines display
 	packaging/linux/check-launcher
 	packaging/debian/check
 

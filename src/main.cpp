@@ -1,10 +1,14 @@
+#include <optional>
+
 #include "mainwindow/application.h"
 #include "platform/facts.h"
 #include "state/startup.h"
 #include "toolkit/desktop.h"
 
 int main(int argumentCount, char** arguments) {
-    platform::RememberArguments(argumentCount, arguments);
+    if (const std::optional<int> status = platform::RememberArguments(argumentCount, arguments)) {
+        return *status;
+    }
     desktop::StartDesktop();
     ConnectApplication();
     Main();

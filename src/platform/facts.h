@@ -1,6 +1,7 @@
 // Facts of this process.
 #pragma once
 
+#include <optional>
 #include <string>
 
 namespace platform {
@@ -11,8 +12,9 @@ struct VersionNumbers {
     int revision = 0;
 };
 
-/// Remembers what the facts below are made of. `main` calls it first.
-void RememberArguments(int argumentCount, char** arguments);
+/// Remembers the arguments of `main` for OwnCommandLine. On Linux, returns the exit status if they were
+/// an option (`--help`, `--version`), after printing its answer, or an unknown one.
+[[nodiscard]] std::optional<int> RememberArguments(int argumentCount, char** arguments);
 
 /// Folder of the running executable (links followed), a Windows path without a closing backslash.
 std::string ProgramDirectory();

@@ -127,10 +127,12 @@ TEST(PosixFacts, OwnArgumentsAreFullPathsInQuotes) {
         {{"zorvane", "./x.wad"}, '"' + here + "\\x.wad\""},
         {{"zorvane", "link/../z.wad"}, '"' + here + "\\deep\\z.wad\""},
         {{"zorvane", "C:\\e.wad", "a\"b", ""}, R"("C:\e.wad" "")"},
+        {{"zorvane", "/-", "--", "/--", "--help"}, R"("Z:\-" "Z:\--" ")" + here + "\\--help\""},
     };
     for (auto [arguments, text] : rows) {
-        platform::RememberArguments(static_cast<int>(arguments.size()),
-                                    const_cast<char**>(arguments.data()));
+        EXPECT_EQ(platform::RememberArguments(static_cast<int>(arguments.size()),
+                                              const_cast<char**>(arguments.data())),
+                  std::nullopt);
         EXPECT_EQ(platform::OwnCommandLine(), text);
     }
     fs::current_path(before);

@@ -2,6 +2,7 @@
 
 #include <unistd.h>
 
+#include <cstdio>
 #include <filesystem>
 #include <string_view>
 #include <vector>
@@ -13,7 +14,29 @@ namespace {
 
 namespace fs = std::filesystem;
 
+constexpr const char* Help =
+    "Usage: zorvane [FILE]...\n"
+    "Starts games of the Doom family. The files replace the list of additional files.\n"
+    "\n"
+    "  --help     print this text and exit\n"
+    "  --version  print the version and exit\n"
+    "  --         treat every further argument as a file\n";
+
 std::vector<std::string> ownArguments;
+
+/// Prints the answer to an option and returns the exit status.
+int Answer(const std::string& option) {
+    const auto [major, minor, revision] = ProgramVersion();
+    if (option == "--help") {
+        std::fputs(Help, stdout);
+    } else if (option == "--version") {
+        std::printf("Zorvane %d.%d.%d\n", major, minor, revision);
+    } else {
+        std::fprintf(stderr, "zorvane: unknown option '%s'; see zorvane --help\n", option.c_str());
+        return 2;
+    }
+    return std::fflush(stdout) == 0 ? 0 : 1;
+}
 
 /// The argument as a full Windows path; a path on another drive, and the empty text, as it is.
 std::string FullPath(const std::string& argument) {
@@ -32,8 +55,20 @@ std::string FullPath(const std::string& argument) {
 
 }  // namespace
 
-void RememberArguments(int argumentCount, char** arguments) {
-    ownArguments.assign(arguments + (argumentCount > 0 ? 1 : 0), arguments + argumentCount);
+std::optional<int> RememberArguments(int argumentCount, char** arguments) {
+    ownArguments.clear();
+    bool optionsEnded = false;
+    for (int i = 1; i < argumentCount; ++i) {
+        const std::string argument = arguments[i];
+        if (optionsEnded || argument == "-" || !argument.starts_with('-')) {
+            ownArguments.push_back(argument);
+        } else if (argument == "--") {
+            optionsEnded = true;
+        } else {
+            return Answer(argument);
+        }
+    }
+    return std::nullopt;
 }
 
 std::string ProgramDirectory() {

@@ -10,7 +10,9 @@
 namespace platform {
 
 // Windows keeps the command line itself.
-void RememberArguments(int /*argumentCount*/, char** /*arguments*/) {}
+std::optional<int> RememberArguments(int /*argumentCount*/, char** /*arguments*/) {
+    return std::nullopt;
+}
 
 std::string ProgramDirectory() {
     std::wstring path(MAX_PATH, L'\0');
