@@ -12,8 +12,8 @@ struct VersionNumbers {
     int revision = 0;
 };
 
-/// Remembers the arguments of `main` for OwnCommandLine. On Linux, returns the exit status if they were
-/// an option (`--help`, `--version`), after printing its answer, or an unknown one.
+/// Remembers the arguments of `main` for OwnCommandLine. On Linux, returns the exit status if they
+/// were an option (`--help`, `--version`), after printing its answer, or an unknown one.
 [[nodiscard]] std::optional<int> RememberArguments(int argumentCount, char** arguments);
 
 /// Folder of the running executable (links followed), a Windows path without a closing backslash.

@@ -15,7 +15,6 @@
 #include "launch/demo_save.h"
 #include "mainwindow/application.h"
 #include "mainwindow/main_window.h"
-#include "platform/facts.h"
 #include "setup/credits.h"
 #include "setup/engine_settings.h"
 #include "setup/setup.h"
@@ -219,7 +218,6 @@ void Play(const std::string& part) {
 
 int main(int /*argumentCount*/, char** arguments) {
     desktop::StartDesktop();
-    platform::RememberArguments(1, arguments);
     folder = arguments[2];
     pictureFolder = arguments[3];
     ConnectApplication();
