@@ -1,11 +1,20 @@
 #include "config/configuration.h"
 
+#include <new>
 #include <utility>
 
 #include "config/reader.h"
 #include "config/writer.h"
 
 namespace {
+
+/// A text grows with the square of the depth of its tree, and a file larger than this cannot be
+/// read.
+constexpr std::size_t LargestText = std::size_t{64} << 20;
+
+platform::Outcome OutOfMemory() {
+    return {false, "There is not enough memory"};
+}
 
 /// Creates the file if it is missing. A file with content was not missing: then the outcome is the
 /// reason why it could not be read.
@@ -23,15 +32,17 @@ platform::Outcome clsConfiguration::LoadConfiguration(const std::string& fileNam
     if (!outcome) {
         outcome = CreateIfMissing(fileName, outcome);
     }
-    if (outcome) {
-        InputConfiguration(text);
-    }
-    return outcome;
+    return outcome ? InputConfiguration(text) : outcome;
 }
 
-void clsConfiguration::InputConfiguration(std::string_view configuration) {
-    std::size_t position = 0;
-    configurationRoot_ = ParseBlock(position, configuration, &textWasComplete_);
+platform::Outcome clsConfiguration::InputConfiguration(std::string_view configuration) {
+    try {
+        std::size_t position = 0;
+        configurationRoot_ = ParseBlock(position, configuration, &textWasComplete_);
+        return {};
+    } catch (const std::bad_alloc&) {
+        return OutOfMemory();
+    }
 }
 
 void clsConfiguration::NewConfiguration() {
@@ -46,7 +57,15 @@ void clsConfiguration::RemoveSetting(std::string_view setting) {
 platform::Outcome clsConfiguration::SaveConfiguration(const std::string& fileName,
                                                       std::string_view newLine,
                                                       bool whitespace) const {
-    return platform::ReplaceWholeFile(fileName, OutputConfiguration(newLine, whitespace));
+    try {
+        const std::string text =
+            OutputBlock(*configurationRoot_, 0, newLine, whitespace, LargestText);
+        return text.size() <= LargestText
+                   ? platform::ReplaceWholeFile(fileName, text)
+                   : platform::Outcome{false, "The text would be larger than 64 MiB"};
+    } catch (const std::bad_alloc&) {
+        return OutOfMemory();
+    }
 }
 
 std::string clsConfiguration::OutputConfiguration(std::string_view newLine, bool whitespace) const {

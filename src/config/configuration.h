@@ -19,9 +19,10 @@ class clsConfiguration {
 
     /// Replaces the tree by the content of a file; creates an empty file if it is missing. A
     /// failure leaves the tree unchanged.
-    [[nodiscard]] platform::Outcome LoadConfiguration(const std::string& fileName);
-    /// Replaces the tree by the content of a text.
-    void InputConfiguration(std::string_view configuration);
+    platform::Outcome LoadConfiguration(const std::string& fileName);
+    /// Replaces the tree by the content of a text. Fails, and leaves the tree unchanged, only if
+    /// there is not enough memory.
+    platform::Outcome InputConfiguration(std::string_view configuration);
     /// Replaces the tree by an empty one.
     void NewConfiguration();
     /// False if the text that was read last ended inside a structure, a string or a block comment,
@@ -33,9 +34,9 @@ class clsConfiguration {
 
     /// Replaces the file by the text form, atomically: a failure leaves the old file whole.
     /// `newLine` ends each line, `whitespace` chooses the readable form.
-    [[nodiscard]] platform::Outcome SaveConfiguration(const std::string& fileName,
-                                                      std::string_view newLine = "\r\n",
-                                                      bool whitespace = true) const;
+    platform::Outcome SaveConfiguration(const std::string& fileName,
+                                        std::string_view newLine = "\r\n",
+                                        bool whitespace = true) const;
     /// The text form; empty for an empty tree.
     std::string OutputConfiguration(std::string_view newLine = "\r\n",
                                     bool whitespace = true) const;

@@ -32,8 +32,8 @@ void AppendEscaped(std::string& output, std::string_view text) {
 /// Writes without recursion, so that the depth of a document is limited by memory only.
 class Writer {
   public:
-    Writer(std::size_t level, std::string_view newLine, bool whitespace)
-        : outerLevel_(level), newLine_(newLine), whitespace_(whitespace) {}
+    Writer(std::size_t level, std::string_view newLine, bool whitespace, std::size_t limit)
+        : outerLevel_(level), newLine_(newLine), whitespace_(whitespace), limit_(limit) {}
 
     std::string Write(const ConfigMap& map);
 
@@ -49,25 +49,26 @@ class Writer {
     std::size_t outerLevel_;
     std::string_view newLine_;
     bool whitespace_;
+    std::size_t limit_;
     std::string output_;
     /// The entries left to write of each open structure, the root first.
-    std::vector<std::span<const ConfigEntry>> levels_;
+    std::vector<std::span<const ConfigEntry>> open_;
 };
 
 std::string Writer::Write(const ConfigMap& map) {
-    levels_.push_back(map.Entries());
-    while (true) {
-        std::span<const ConfigEntry>& rest = levels_.back();
+    open_.push_back(map.Entries());
+    while (!open_.empty() && output_.size() <= limit_) {
+        std::span<const ConfigEntry>& rest = open_.back();
         if (!rest.empty()) {
             const ConfigEntry& entry = rest.front();
             rest = rest.subspan(1);
             WriteEntry(entry);
-        } else if (levels_.size() > 1) {
-            CloseStructure();
         } else {
-            return std::move(output_);
+            open_.pop_back();
+            CloseStructure();
         }
     }
+    return std::move(output_);
 }
 
 void Writer::WriteEntry(const ConfigEntry& entry) {
@@ -95,18 +96,19 @@ void Writer::OpenStructure(const std::string& key, const ConfigMap& map) {
     WriteEmptyLine();
     WriteLine(key);
     WriteLine("{");
-    levels_.push_back(map.Entries());
+    open_.push_back(map.Entries());
 }
 
 void Writer::CloseStructure() {
-    levels_.pop_back();
-    WriteLine("}");
-    WriteEmptyLine();
+    if (!open_.empty()) {  // the root has no braces
+        WriteLine("}");
+        WriteEmptyLine();
+    }
 }
 
 void Writer::StartLine() {
     if (whitespace_) {
-        output_.append(outerLevel_ + levels_.size() - 1, '\t');
+        output_.append(outerLevel_ + open_.size() - 1, '\t');
     }
 }
 
@@ -129,7 +131,11 @@ std::string EscapeText(std::string_view text) {
     return escaped;
 }
 
+bool KeyCanBeReadBack(std::string_view key) {
+    return key.find_first_of(" \t\r\n=;{}/") == std::string_view::npos;
+}
+
 std::string OutputBlock(const ConfigMap& map, std::size_t level, std::string_view newLine,
-                        bool whitespace) {
-    return Writer(level, newLine, whitespace).Write(map);
+                        bool whitespace, std::size_t limit) {
+    return Writer(level, newLine, whitespace, limit).Write(map);
 }

@@ -9,9 +9,14 @@
 /// The text as it is written between the quotes of a string.
 std::string EscapeText(std::string_view text);
 
+/// Whether the reader reads a key back as it was written. A key that contains a space, TAB, CR, LF
+/// or one of = ; { } / is read as another one, or as no key.
+bool KeyCanBeReadBack(std::string_view key);
+
 /// The text form of a map at nesting level `level`, 0 for a document's root. `newLine` ends each
 /// line. `whitespace` chooses the readable form: a TAB per level, spaces around "=" and an empty
-/// line before and after a structure. Keys are written unchanged: one with a space or one of = ; {
-/// } / in it is not read back.
+/// line before and after a structure. Keys are written unchanged. Writing stops once the text is
+/// larger than `limit` bytes, because indents grow with the square of the depth: such a text is cut
+/// off.
 std::string OutputBlock(const ConfigMap& map, std::size_t level, std::string_view newLine,
-                        bool whitespace);
+                        bool whitespace, std::size_t limit = std::string::npos);

@@ -137,12 +137,14 @@ void InitialiseSettings() {
 }
 
 bool LoadSettings() {
-    const platform::Outcome outcome = platform::ReadWholeFile(SettingsFileName, knownFile);
+    platform::Outcome outcome = platform::ReadWholeFile(SettingsFileName, knownFile);
+    if (outcome) {
+        outcome = Settings.InputConfiguration(knownFile);
+    }
     if (!outcome) {
         Fail("The settings could not be read from " + SettingsFileName + "\r\n" + outcome.reason);
         return false;
     }
-    Settings.InputConfiguration(knownFile);
     const ConfigValue* type = Settings.Root()->Find("type");
     if (type == nullptr || !type->IsText() || type->AsText() != SettingsFileMark) {
         Fail("The configuration file was corrupted.");

@@ -106,3 +106,14 @@ TEST(Configuration, LoadsAndSavesAFile) {
     EXPECT_EQ(document.Root()->Count(), 0);
     EXPECT_TRUE(std::filesystem::exists(folder.Native("absent.cfg")));
 }
+
+TEST(Configuration, RefusesToSaveATextAbove64MiB) {
+    const TempFolder folder;
+    const std::string file = folder.Write("deep.cfg", "old");
+    clsConfiguration document;
+    ASSERT_TRUE(document.InputConfiguration(std::string(60'000, '{')));
+    EXPECT_NE(document.SaveConfiguration(file).reason, "");
+    EXPECT_EQ(folder.Read("deep.cfg"), "old");
+    EXPECT_TRUE(document.SaveConfiguration(file, "", false));
+    EXPECT_EQ(folder.Read("deep.cfg").size(), 120'000U);
+}

@@ -12,7 +12,7 @@ namespace {
 std::string Rewritten(std::string_view text, std::string_view newLine = "",
                       bool whitespace = false) {
     clsConfiguration document;
-    document.InputConfiguration(text);
+    EXPECT_TRUE(document.InputConfiguration(text));
     return document.OutputConfiguration(newLine, whitespace);
 }
 
@@ -90,7 +90,7 @@ TEST(Reader, KeepsTheLastOfManyRepeatedKeys) {
         text += std::to_string(entry / 2) + "=" + std::to_string(entry) + ";";
     }
     clsConfiguration document;
-    document.InputConfiguration(text);
+    ASSERT_TRUE(document.InputConfiguration(text));
     ASSERT_EQ(document.Root()->Count(), 100);
     for (int key = 0; key < 100; ++key) {
         const ConfigEntry& entry = document.Root()->Entries()[static_cast<std::size_t>(key)];
@@ -102,12 +102,12 @@ TEST(Reader, KeepsTheLastOfManyRepeatedKeys) {
 TEST(Reader, ReportsATextThatWasCutOff) {
     clsConfiguration document;
     for (const char* text : {"", "a=\"x\"", "a{b=\"/*\";}b=1", "/* */ // c", "/*/", "}a{"}) {
-        document.InputConfiguration(text);
+        ASSERT_TRUE(document.InputConfiguration(text));
         EXPECT_TRUE(document.TextWasComplete()) << text;
     }
     for (const char* text :
          {"{", "a{b{}", "a=\"x", "a=\"x\\\"", "a=\"x;", "/*", "a;/**", "{/**/"}) {
-        document.InputConfiguration(text);
+        ASSERT_TRUE(document.InputConfiguration(text));
         EXPECT_FALSE(document.TextWasComplete()) << text;
     }
     document.NewConfiguration();
@@ -138,6 +138,20 @@ TEST(Writer, EscapesFiveCharactersAndEveryTextIsReadBack) {
         text += static_cast<char>(code);
     }
     clsConfiguration document;
-    document.InputConfiguration("a=\"" + EscapeText(text) + "\";");
+    ASSERT_TRUE(document.InputConfiguration("a=\"" + EscapeText(text) + "\";"));
     EXPECT_EQ(document.ReadSetting("a").AsText(), text);
+}
+
+TEST(Writer, KnowsTheKeysThatCanBeReadBack) {
+    for (int code = 0; code < 256; ++code) {
+        const std::string byte(1, static_cast<char>(code));
+        for (const std::string& key : {byte, "a" + byte + "b", ""s}) {
+            ConfigMap map;
+            map.Add(key, 1);
+            map.Add("next", 2);
+            std::size_t position = 0;
+            const ConfigMapRef read = ParseBlock(position, OutputBlock(map, 0, "\n", true));
+            EXPECT_EQ(KeyCanBeReadBack(key), read->Keys() == map.Keys()) << key;
+        }
+    }
 }

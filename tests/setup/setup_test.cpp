@@ -96,7 +96,8 @@ TEST_F(SetupCase, RenamesAndKeepsTheNameOnCancel) {
 }
 
 TEST_F(SetupCase, AddsOnlyGameWads) {
-    Autodetect.InputConfiguration("game.wad = \"Proposed\"; GAME2.wad = \"never\"; n = 5;");
+    ASSERT_TRUE(
+        Autodetect.InputConfiguration("game.wad = \"Proposed\"; GAME2.wad = \"never\"; n = 5;"));
     const std::string game = folder.Write("Game.WAD", MapWad("IWAD", {"E1M1"}));
     InSetup([&] {
         const std::string patch = folder.Write("p.wad", WadOf({}, "PWAD"));
