@@ -36,19 +36,30 @@ class ButtonWidget : public QPushButton, public NativeControl {
 /// A button with a picture, whose size follows the font.
 class PictureButtonWidget final : public ButtonWidget {
   public:
-    PictureButtonWidget(toolkit::Button& button, QWidget& parent) : ButtonWidget(button, parent) {
+    PictureButtonWidget(toolkit::Button& button, QWidget& parent)
+        : ButtonWidget(button, parent), name_(button.Spec().picture) {
         const int side = fontMetrics().height() * 8 / 7;
-        const double pixels = side * devicePixelRatioF();
-        setIcon(LoadPicture(button.Spec().picture, pixels / 16, palette()));
         setIconSize(QSize(side, side));
+        QIcon icon;
+        const QColor color = IsDark(palette()) ? QColor(0xFF, 0x8B, 0x5C) : Accent;
+        icon.addPixmap(Draw(color), QIcon::Normal);
+        icon.addPixmap(Draw(Blend(color, palette().color(QPalette::Window), 0.6)), QIcon::Disabled);
+        setIcon(icon);
     }
+
+  private:
+    QPixmap Draw(const QColor& color) const {
+        return OutlinePicture(name_, iconSize().width(), devicePixelRatioF(), color);
+    }
+
+    std::string_view name_;
 };
 
 /// The button in the color of the program, the same on every desktop.
 class AccentButtonWidget final : public ButtonWidget {
   public:
     AccentButtonWidget(toolkit::Button& button, QWidget& parent) : ButtonWidget(button, parent) {
-        QFont bold = Scaled(font(), 1.15);
+        QFont bold = font();
         bold.setBold(true);
         setFont(bold);
         setAttribute(Qt::WA_Hover);

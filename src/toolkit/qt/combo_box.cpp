@@ -19,7 +19,6 @@ class ComboWidget : public QComboBox, public NativeControl {
         : QComboBox(&parent), combo_(combo), items_(combo, this) {
         setModel(&items_);
         setMaxVisibleItems(OpenListRows);
-        setSizeAdjustPolicy(AdjustToMinimumContentsLengthWithIcon);
         ComboWidget::Apply(Property::Selection, -1);
         connect(this, &QComboBox::activated, this, [this](int row) { combo_.UserSelects(row); });
     }
@@ -46,6 +45,7 @@ class EditComboWidget final : public ComboWidget {
   public:
     EditComboWidget(toolkit::ComboBox& combo, QWidget& parent)
         : ComboWidget(combo, parent), combo_(combo) {
+        resize(1, 1);  // otherwise making it editable measures every item
         setEditable(true);
         setInsertPolicy(NoInsert);
         setCompleter(nullptr);

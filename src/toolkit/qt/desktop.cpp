@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QEventLoop>
 #include <QSocketNotifier>
+#include <QTimer>
 #include <QWindow>
 
 #include "platform/shell.h"
@@ -26,10 +27,11 @@ void StartDesktop() {
         new QApplication(argumentCount, arguments);
     QApplication::setApplicationName(QStringLiteral("Zorvane"));
     QApplication::setDesktopFileName(QStringLiteral("zorvane"));
-    QApplication::setWindowIcon(ProgramIcon());
     QApplication::setQuitOnLastWindowClosed(false);
     ApplyLook();
     WatchSessionEnd();
+    // Once the event loop runs, so that decoding it does not delay the first window.
+    QTimer::singleShot(0, qApp, [] { QApplication::setWindowIcon(ProgramIcon()); });
 }
 
 void DoEvents() {

@@ -2,7 +2,6 @@
 #include <QPainter>
 
 #include "toolkit/qt/controls.h"
-#include "toolkit/qt/pictures.h"
 #include "toolkit/qt/text.h"
 
 namespace desktop {
@@ -42,48 +41,6 @@ class DividerWidget final : public QWidget, public NativeControl {
     }
 };
 
-/// A picture as wide as its window is stretched; any other keeps its aspect ratio.
-class PictureWidget final : public QWidget, public NativeControl {
-  public:
-    PictureWidget(toolkit::Control& picture, QWidget& parent)
-        : QWidget(&parent), name_(picture.Spec().picture) {}
-
-    QWidget& Widget() override { return *this; }
-    void Apply(Property, int) override {}
-
-  protected:
-    void paintEvent(QPaintEvent*) override {
-        if (pixmap_.isNull()) {
-            Load();
-        }
-        QPainter painter(this);
-        painter.setRenderHint(QPainter::SmoothPixmapTransform);
-        painter.drawPixmap(Target(), pixmap_);
-    }
-
-  private:
-    /// Loads the picture in a resolution that is high enough for its place.
-    void Load() {
-        pixmap_ = LoadPicture(name_, 1, palette());
-        const double stretch = height() * devicePixelRatioF() / std::max(1, pixmap_.height());
-        if (stretch > 1) {
-            pixmap_ = LoadPicture(name_, stretch, palette());
-        }
-    }
-
-    QRect Target() const {
-        if (width() == parentWidget()->width()) {
-            return rect();
-        }
-        QRect target({}, pixmap_.size().scaled(size(), Qt::KeepAspectRatio));
-        target.moveCenter(rect().center());
-        return target;
-    }
-
-    std::string_view name_;
-    QPixmap pixmap_;
-};
-
 }  // namespace
 
 NativeControl* MakeFrame(toolkit::Control& frame, QWidget& parent) {
@@ -92,10 +49,6 @@ NativeControl* MakeFrame(toolkit::Control& frame, QWidget& parent) {
 
 NativeControl* MakeDivider(toolkit::Control&, QWidget& parent) {
     return new DividerWidget(&parent);
-}
-
-NativeControl* MakePicture(toolkit::Control& picture, QWidget& parent) {
-    return new PictureWidget(picture, parent);
 }
 
 }  // namespace desktop

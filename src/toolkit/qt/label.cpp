@@ -54,7 +54,7 @@ class LabelWidget final : public QLabel, public NativeControl {
             // As large as the place allows.
             SetLook(std::min(LargestTitle, label_.Spec().place.height / LineHeight), Qt::white);
         } else if (label_.Has(toolkit::Small)) {
-            SetLook(0.92, SmallTitleColor);
+            SetColor(SmallTitleColor);
             setAlignment(Qt::AlignRight | Qt::AlignVCenter);
         }
         if (label_.Has(toolkit::Bold) || label_.Has(toolkit::Title)) {

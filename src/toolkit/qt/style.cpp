@@ -15,7 +15,7 @@ constexpr double CornerRadius = 4;
 constexpr int TextInset = 4;
 
 /// Draws a rounded surface with its outline inside `rect`.
-void DrawSurface(QPainter& painter, const QRect& rect, const QColor& fill, const QPen& outline,
+void DrawSurface(QPainter& painter, const QRect& rect, const QBrush& fill, const QPen& outline,
                  double radius = CornerRadius) {
     const double inset = outline.widthF() / 2;
     painter.save();
@@ -60,7 +60,7 @@ void DrawButtonSurface(QPainter& painter, const QStyleOption& option, bool focus
                 focused ? FocusPen(option) : QPen(Outline(option), 1));
 }
 
-void DrawField(QPainter& painter, const QStyleOption& option, const QColor& fill, double radius) {
+void DrawField(QPainter& painter, const QStyleOption& option, const QBrush& fill, double radius) {
     const bool focused = Has(option, QStyle::State_HasFocus);
     DrawSurface(painter, option.rect, fill, focused ? FocusPen(option) : QPen(Outline(option), 1),
                 radius);
@@ -119,7 +119,7 @@ void DrawGroup(QPainter& painter, const QStyleOptionGroupBox& group) {
         const int gap = textHeight / 3;
         painter.setClipRegion(QRegion(group.rect).subtracted(text.adjusted(-gap, 0, gap, 0)));
     }
-    DrawSurface(painter, group.rect.adjusted(0, textHeight / 2, 0, 0), Qt::transparent,
+    DrawSurface(painter, group.rect.adjusted(0, textHeight / 2, 0, 0), Qt::NoBrush,
                 QPen(group.palette.color(QPalette::Mid), 1), CornerRadius + 1);
     painter.restore();
     painter.setPen(group.palette.color(QPalette::WindowText));
@@ -145,7 +145,7 @@ void Style::drawPrimitive(PrimitiveElement element, const QStyleOption* option, 
         DrawField(*painter, *option, option->palette.color(QPalette::Base), CornerRadius);
     } else if (element == PE_Frame && !inCombo) {
         // Small corners, because the rows inside have square ones.
-        DrawField(*painter, *option, Qt::transparent, 1.5);
+        DrawField(*painter, *option, Qt::NoBrush, 1.5);
     } else if (element != PE_PanelLineEdit) {
         QProxyStyle::drawPrimitive(element, option, painter, widget);
     }
