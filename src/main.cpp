@@ -6,7 +6,7 @@
 #include "toolkit/desktop.h"
 
 int main(int argumentCount, char** arguments) {
-    if (const std::optional<int> status = platform::RememberArguments(argumentCount, arguments)) {
+    if (const std::optional<int> status = platform::InitialiseProcess(argumentCount, arguments)) {
         return *status;
     }
     desktop::StartDesktop();

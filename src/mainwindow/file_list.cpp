@@ -8,6 +8,7 @@
 #include "mainwindow/main_window.h"
 #include "platform/facts.h"
 #include "platform/files.h"
+#include "state/messages.h"
 #include "state/records.h"
 #include "text/ascii.h"
 #include "text/file_names.h"
@@ -54,6 +55,9 @@ void MainWindow::FillFileList() {
     }
     if (lstFiles.ListCount() > 0) {
         lstFiles.SetListIndex(0);
+    }
+    for (const std::string& file : platform::RefusedArguments()) {
+        Warn("This file cannot be used: " + file + "\r\n" + platform::CheckNativeName(file).reason);
     }
 }
 

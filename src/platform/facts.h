@@ -1,8 +1,9 @@
-// Facts of this process.
+// Facts about this process.
 #pragma once
 
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace platform {
 
@@ -12,20 +13,24 @@ struct VersionNumbers {
     int revision = 0;
 };
 
-/// Remembers the arguments of `main` for OwnCommandLine. On Linux, returns the exit status if they
-/// were an option (`--help`, `--version`), after printing its answer, or an unknown one.
-[[nodiscard]] std::optional<int> RememberArguments(int argumentCount, char** arguments);
+/// Prepares the process; `main` calls it first. Keeps the arguments for OwnCommandLine. On Linux,
+/// returns the exit status if they were an option (`--help`, `--version`), after printing its
+/// answer, or an unknown one. On Windows, DLLs are loaded from the system's folder only from then
+/// on.
+[[nodiscard]] std::optional<int> InitialiseProcess(int argumentCount, char** arguments);
 
-/// Folder of the running executable (links followed), a Windows path without a closing backslash.
+/// Folder of the running executable (links followed), a Windows path without a final backslash.
 std::string ProgramDirectory();
 
 /// The executable's own version.
 VersionNumbers ProgramVersion();
 
-/// The command line behind the program's own name. On Linux each argument stands in double quotes,
-/// as a full Windows path, with one blank between two; an argument that holds a double quote cannot
-/// be told so and is left out.
+/// The command line after the program's name. On Linux each argument is a full Windows path in
+/// double quotes, separated by a space; RefusedArguments are left out.
 std::string OwnCommandLine();
+
+/// Names of files on the command line that Zorvane cannot use (see CheckNativeName in files.h).
+std::vector<std::string> RefusedArguments();
 
 /// Ends the process at once, whatever is still open.
 [[noreturn]] void EndProcess();

@@ -75,6 +75,11 @@ bool Exists(const std::string& path);
 /// `foo.exe`.
 std::optional<std::string> LookUpFileName(const std::string& path);
 
+/// Whether Zorvane can use a file of this native path. On Linux it cannot if the path contains a
+/// double quote, which would end it on a command line, or a backslash, which would separate
+/// folders.
+Outcome CheckNativeName(std::string_view path);
+
 /// Bare names of the ordinary files in `directory` that match `pattern` (`*` and `?`, in any case),
 /// in case-insensitive name order. Empty if there is no such directory.
 std::vector<std::string> ListFiles(const std::string& directory, const std::string& pattern);

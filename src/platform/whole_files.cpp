@@ -22,11 +22,12 @@ Outcome ReadWholeFile(const std::string& path, std::string& bytes) {
         return opened;
     }
     // Before any memory is reserved: a sparse file may claim any size.
-    if (file.Size() > LargestWholeFile) {
+    const std::int64_t size = file.Size();
+    if (size > LargestWholeFile) {
         return {false, TooLarge};
     }
     try {
-        bytes.resize(static_cast<std::size_t>(file.Size()));
+        bytes.resize(static_cast<std::size_t>(size));
     } catch (const std::bad_alloc&) {
         return {false, "There is not enough memory"};
     }

@@ -39,6 +39,8 @@ TEST(PosixFiles, PipesDevicesAndHiddenFilesAreNotOrdinary) {
     EXPECT_FALSE(platform::ReplaceWholeFile(folder.Path("pipe.wad"), "x"));
     EXPECT_EQ(platform::ListFiles(folder.Path(), "*.wad"), (Strings{"a.wad", "link.wad"}));
     EXPECT_EQ(platform::LookUpFileName(folder.Path(".hidden.wad")), "");
+    folder.Write("a:b.txt", "");
+    EXPECT_EQ(platform::LookUpFileName(folder.Path("A:b.txt")), "a:b.txt");
 }
 
 TEST(PosixFiles, AStandInGoesByTheNameAskedForAndStaysToThisProcess) {
@@ -67,6 +69,9 @@ TEST(PosixFiles, ReplacingKeepsRightsAndFollowsLinks) {
     fs::create_symlink("real/loop", folder.Native("loop"));
     fs::create_symlink("../loop", folder.Native("real/loop"));
     EXPECT_NE(platform::ReplaceWholeFile(folder.Path("loop"), "x").reason, "");
+    EXPECT_TRUE(platform::Exists(folder.Path("loop")));
+    fs::create_symlink("nowhere", folder.Native("dangling"));
+    EXPECT_FALSE(platform::Exists(folder.Path("dangling"))) << "it can still be created";
     fs::create_hard_link(folder.Native("real/a.cfg"), folder.Native("same"));
     EXPECT_FALSE(platform::CopyWholeFile(folder.Path("a.cfg"), folder.Path("same")));
 }
@@ -126,15 +131,18 @@ TEST(PosixFacts, OwnArgumentsAreFullPathsInQuotes) {
         {{"zorvane", "/a b/c.wad", "Z:\\d.wad"}, R"("Z:\a b\c.wad" "Z:\d.wad")"},
         {{"zorvane", "./x.wad"}, '"' + here + "\\x.wad\""},
         {{"zorvane", "link/../z.wad"}, '"' + here + "\\deep\\z.wad\""},
-        {{"zorvane", "C:\\e.wad", "a\"b", ""}, R"("C:\e.wad" "")"},
         {{"zorvane", "/-", "--", "/--", "--help"}, R"("Z:\-" "Z:\--" ")" + here + "\\--help\""},
+        {{"zorvane", "C:\\e.wad", "a\"b", "c\\d.wad", ""}, R"("C:\e.wad" "")"},
     };
+    folder.Write("c\\d.wad", "");
     for (auto [arguments, text] : rows) {
-        EXPECT_EQ(platform::RememberArguments(static_cast<int>(arguments.size()),
+        EXPECT_EQ(platform::InitialiseProcess(static_cast<int>(arguments.size()),
                                               const_cast<char**>(arguments.data())),
                   std::nullopt);
         EXPECT_EQ(platform::OwnCommandLine(), text);
     }
+    EXPECT_EQ(platform::RefusedArguments(), (Strings{"a\"b", "c\\d.wad"}));
+    EXPECT_NE(platform::CheckNativeName("a\"b").reason, "");
     fs::current_path(before);
 }
 
@@ -167,6 +175,11 @@ TEST(Paths, AreFoundWhateverTheCase) {
     EXPECT_EQ(platform::FindProgram(folder.Path("port/game.EXE")), root + "/port/Game");
     EXPECT_EQ(platform::FindProgram(folder.Path("port/real.exe")), root + "/port/real.EXE");
     EXPECT_EQ(platform::FindProgram(folder.Path("port.exe")), std::nullopt);
+
+    platform::FolderNames names;
+    EXPECT_EQ(names.Find(root, "none"), nullptr);
+    folder.Write("None", "");
+    EXPECT_EQ(names.Find(root, "none"), nullptr) << "a folder is listed once";
 }
 
 TEST(Arguments, AreSplitAtBlanksOutsideQuotes) {

@@ -70,6 +70,9 @@ TEST_F(Startup, QuotedPathsOfTheCommandLineReplaceTheFileList) {
         ASSERT_TRUE(Start());
         EXPECT_EQ(driver::ShownItems(frmMain.lstFiles), files) << "as saved";
     }
+    memory::machine.refusedArguments = {"no\"name.wad"};
+    ASSERT_TRUE(Start());
+    EXPECT_TRUE(memory::TakeMessage().starts_with("This file cannot be used: no\"name.wad\r\n"));
 }
 
 }  // namespace

@@ -46,6 +46,9 @@ VersionNumbers ProgramVersion() {
 std::string OwnCommandLine() {
     return machine.commandLine;
 }
+std::vector<std::string> RefusedArguments() {
+    return machine.refusedArguments;
+}
 void EndProcess() {
     throw memory::ProcessEnded();
 }

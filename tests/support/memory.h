@@ -32,6 +32,7 @@ struct StartedProgram {
 struct Machine {
     std::string programDirectory;
     std::string commandLine;
+    std::vector<std::string> refusedArguments;
     std::deque<std::string> messages;         // that were shown
     std::deque<std::string> files;            // chosen in file dialogs, empty for Cancel
     std::deque<std::string> folders;          // chosen in folder dialogs

@@ -6,35 +6,36 @@
 namespace platform {
 namespace {
 
-std::string ForTheEngine(std::string argument) {
+std::string NativeArgument(std::string argument, FolderNames& names) {
     if (LowerCase(std::string_view(argument).substr(0, 3)) != "z:\\") {
         return argument;
     }
-    return TargetPath(argument).value_or(argument);
+    return TargetPath(argument, names).value_or(argument);
 }
 
 }  // namespace
 
 std::vector<std::string> SplitArguments(std::string_view text) {
     std::vector<std::string> arguments;
+    FolderNames names;
     std::string argument;
-    bool begun = false;
-    bool quoted = false;
+    bool hasBegun = false;
+    bool isQuoted = false;
     for (const char character : text) {
         if (character == '"') {
-            quoted = !quoted;
-            begun = true;
-        } else if (character != ' ' || quoted) {
+            isQuoted = !isQuoted;
+            hasBegun = true;
+        } else if (character != ' ' || isQuoted) {
             argument += character;
-            begun = true;
-        } else if (begun) {
-            arguments.push_back(ForTheEngine(std::move(argument)));
+            hasBegun = true;
+        } else if (hasBegun) {
+            arguments.push_back(NativeArgument(std::move(argument), names));
             argument.clear();
-            begun = false;
+            hasBegun = false;
         }
     }
-    if (begun) {
-        arguments.push_back(ForTheEngine(std::move(argument)));
+    if (hasBegun) {
+        arguments.push_back(NativeArgument(std::move(argument), names));
     }
     return arguments;
 }

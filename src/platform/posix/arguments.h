@@ -6,10 +6,9 @@
 
 namespace platform {
 
-/// Splits a command line text into arguments: blanks part them, double quotes group and are
-/// dropped, an unclosed one groups to the end, a backslash is an ordinary character, `""` is an
-/// empty argument. An argument that begins with `Z:\` (either case) comes out as a native path,
-/// what is there by its name on the disk.
+/// Splits a command line at spaces. Double quotes group and are removed; an unclosed one groups to
+/// the end, and `""` is an empty argument. A backslash is an ordinary character. An argument that
+/// begins with `Z:\` (in either case) becomes a native path, with the names of the disk.
 std::vector<std::string> SplitArguments(std::string_view text);
 
 }  // namespace platform

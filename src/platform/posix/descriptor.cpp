@@ -14,8 +14,10 @@ Outcome Failure(int error) {
     return {false, std::generic_category().message(error)};
 }
 
-bool Descriptor::Close() {
-    return number_ < 0 || close(std::exchange(number_, -1)) == 0 || errno == EINTR;
+void Descriptor::Close() {
+    if (number_ >= 0) {
+        close(std::exchange(number_, -1));
+    }
 }
 
 Outcome OpenRegularFile(const std::string& path, int flags, Descriptor& descriptor) {
@@ -23,24 +25,20 @@ Outcome OpenRegularFile(const std::string& path, int flags, Descriptor& descript
     if (!native) {
         return Failure(ENOENT);
     }
-    struct stat facts = {};
-    bool isThere = stat(native->c_str(), &facts) == 0;
-    if (!isThere) {
+    // Without O_NONBLOCK, opening a pipe would wait for its other end.
+    constexpr int Always = O_CLOEXEC | O_NONBLOCK | O_NOCTTY;
+    Descriptor opened(open(native->c_str(), (flags & ~O_CREAT) | Always));
+    if (opened.Number() < 0 && (errno == ENOENT || errno == ENOTDIR)) {
+        constexpr mode_t Mode = 0666;  // less the bits of the user's umask
         native = TargetPath(path);
-        isThere = stat(native->c_str(), &facts) == 0;
+        opened = Descriptor(open(native->c_str(), flags | Always, Mode));
     }
-    if (isThere && !S_ISREG(facts.st_mode)) {
-        return Failure(S_ISDIR(facts.st_mode) ? EISDIR : EINVAL);
-    }
-    // Should a pipe have come there since, it is not waited for.
-    constexpr mode_t forEverybody = 0666;  // less what the user's umask takes away
-    Descriptor opened(
-        open(native->c_str(), flags | O_CLOEXEC | O_NONBLOCK | O_NOCTTY, forEverybody));
+    struct stat facts = {};
     if (opened.Number() < 0 || fstat(opened.Number(), &facts) != 0) {
         return Failure(errno);
     }
     if (!S_ISREG(facts.st_mode)) {
-        return Failure(EINVAL);
+        return Failure(S_ISDIR(facts.st_mode) ? EISDIR : EINVAL);
     }
     descriptor = std::move(opened);
     return {};

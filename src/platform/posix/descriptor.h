@@ -11,7 +11,7 @@
 
 namespace platform {
 
-/// The failure that an `errno` value stands for.
+/// The failure for an `errno` value.
 Outcome Failure(int error);
 
 /// Owns a file descriptor and closes it; -1 is none.
@@ -29,19 +29,18 @@ class Descriptor {
 
     int Number() const { return number_; }
     int Release() { return std::exchange(number_, -1); }
-    /// Whether the system could still write what it had kept back.
-    bool Close();
+    void Close();
 
   private:
     int number_;
 };
 
-/// Opens the regular file that a path of the system names, by `open` flags, close-on-exec. Anything
-/// else is refused and not waited for.
+/// Opens a regular file with the flags of `open`, close-on-exec. Anything else is a failure at
+/// once.
 Outcome OpenRegularFile(const std::string& path, int flags, Descriptor& descriptor);
 
-/// Reads until `size` bytes are there or the file ends; `count` is how many. Asks again when a
-/// signal interrupts.
+/// Reads `size` bytes, or fewer at the end of the file; `count` is the number read. Continues after
+/// a signal.
 Outcome ReadFully(int descriptor, std::int64_t position, void* buffer, std::size_t size,
                   std::size_t& count);
 

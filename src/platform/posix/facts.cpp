@@ -2,11 +2,14 @@
 
 #include <unistd.h>
 
+#include <algorithm>
 #include <cstdio>
 #include <filesystem>
+#include <iterator>
 #include <string_view>
 #include <vector>
 
+#include "platform/files.h"
 #include "platform/posix/paths.h"
 
 namespace platform {
@@ -38,7 +41,7 @@ int Answer(const std::string& option) {
     return std::fflush(stdout) == 0 ? 0 : 1;
 }
 
-/// The argument as a full Windows path; a path on another drive, and the empty text, as it is.
+/// The argument as a full Windows path. A path on another drive and an empty text stay.
 std::string FullPath(const std::string& argument) {
     const std::optional<std::string> native = NativePath(argument);
     if (!native) {
@@ -46,16 +49,24 @@ std::string FullPath(const std::string& argument) {
     }
     std::error_code error;
     const fs::path path = fs::absolute(*native, error);
-    // A folder behind a link has another parent than its name says.
-    const bool climbs = path.native().find("/../") != std::string::npos;
+    // The parent of a linked folder is not the one that its name says.
+    const bool hasParent = path.native().find("/../") != std::string::npos;
     const fs::path folder =
-        climbs ? fs::weakly_canonical(path.parent_path(), error) : path.parent_path();
+        hasParent ? fs::weakly_canonical(path.parent_path(), error) : path.parent_path();
     return WindowsPath((folder / path.filename()).lexically_normal().native());
+}
+
+/// Whether the argument is a native name that Zorvane cannot use. One with backslashes is taken for
+/// a Windows path unless a file has exactly that name.
+bool IsRefused(const std::string& argument) {
+    std::error_code error;
+    return !CheckNativeName(argument) && (argument.find('"') != std::string::npos ||
+                                          fs::exists(fs::symlink_status(argument, error)));
 }
 
 }  // namespace
 
-std::optional<int> RememberArguments(int argumentCount, char** arguments) {
+std::optional<int> InitialiseProcess(int argumentCount, char** arguments) {
     ownArguments.clear();
     bool optionsEnded = false;
     for (int i = 1; i < argumentCount; ++i) {
@@ -83,11 +94,17 @@ VersionNumbers ProgramVersion() {
 std::string OwnCommandLine() {
     std::string text;
     for (const std::string& argument : ownArguments) {
-        if (argument.find('"') == std::string::npos) {
+        if (!IsRefused(argument)) {
             text.append(text.empty() ? "\"" : " \"").append(FullPath(argument)).append("\"");
         }
     }
     return text;
+}
+
+std::vector<std::string> RefusedArguments() {
+    std::vector<std::string> refused;
+    std::ranges::copy_if(ownArguments, std::back_inserter(refused), IsRefused);
+    return refused;
 }
 
 void EndProcess() {

@@ -1,8 +1,9 @@
-// What stands in a folder: ordinary files, by name and by pattern.
+// Looks up files and lists folders.
 #include <dirent.h>
 #include <sys/stat.h>
 
 #include <algorithm>
+#include <cerrno>
 #include <memory>
 
 #include "platform/files.h"
@@ -38,7 +39,10 @@ bool IsOrdinaryFile(const std::string& path) {
 }
 
 bool Exists(const std::string& path) {
-    return FindPath(path).has_value();
+    const std::optional<std::string> native = FindPath(path);
+    struct stat facts = {};
+    // A link to a missing file may still be created; one in a loop cannot.
+    return native && (stat(native->c_str(), &facts) == 0 || errno != ENOENT);
 }
 
 std::optional<std::string> LookUpFileName(const std::string& path) {
@@ -50,8 +54,20 @@ std::optional<std::string> LookUpFileName(const std::string& path) {
         return "";
     }
     const std::string name = BareName(*native);
-    const std::size_t asked = path.size() - (path.find_last_of("/\\:") + 1);
-    return name.size() == asked ? name : path.substr(path.size() - asked);
+    // A colon is a separator after a drive only: elsewhere it belongs to the name.
+    const std::size_t separator = path.find_last_of("/\\");
+    const std::size_t start = separator != std::string::npos ? separator + 1
+                              : HasDrive(path)               ? 2
+                                                             : 0;
+    const std::string asked = path.substr(start);
+    return name.size() == asked.size() ? name : asked;
+}
+
+Outcome CheckNativeName(std::string_view path) {
+    if (path.find_first_of("\"\\") == std::string_view::npos) {
+        return {};
+    }
+    return {false, "A name with a double quote or a backslash cannot be used."};
 }
 
 std::vector<std::string> ListFiles(const std::string& directory, const std::string& pattern) {
@@ -60,7 +76,10 @@ std::vector<std::string> ListFiles(const std::string& directory, const std::stri
     const std::unique_ptr<DIR, int (*)(DIR*)> listing(folder ? opendir(folder->c_str()) : nullptr,
                                                       closedir);
     while (const dirent* entry = listing ? readdir(listing.get()) : nullptr) {
-        if (MatchesPattern(entry->d_name, pattern) && IsOrdinary(*folder + '/' + entry->d_name)) {
+        // Most file systems tell the type here, which saves a call for each file.
+        const bool isRegular = entry->d_type == DT_REG && !IsHidden(entry->d_name);
+        if (MatchesPattern(entry->d_name, pattern) &&
+            (isRegular || IsOrdinary(*folder + '/' + entry->d_name))) {
             names.emplace_back(entry->d_name);
         }
     }

@@ -15,11 +15,7 @@ bool IsLetter(char character) {
     return lower >= 'a' && lower <= 'z';
 }
 
-bool HasDrive(std::string_view path) {
-    return path.size() >= 2 && path[1] == ':' && IsLetter(path[0]);
-}
-
-bool IsThere(const std::string& native) {
+bool NameExists(const std::string& native) {
     struct stat facts = {};
     return lstat(native.c_str(), &facts) == 0;
 }
@@ -29,42 +25,33 @@ bool IsRegular(const std::string& native) {
     return stat(native.c_str(), &facts) == 0 && S_ISREG(facts.st_mode);
 }
 
-/// The name in the folder that is equal to `name` but for case, empty when there is none.
-std::string NameInFolder(const std::string& folder, const std::string& name) {
-    const std::unique_ptr<DIR, int (*)(DIR*)> listing(opendir(folder.c_str()), closedir);
-    std::string found;
-    while (const dirent* entry = listing ? readdir(listing.get()) : nullptr) {
-        const std::string_view candidate = entry->d_name;
-        if (EqualIgnoringCase(candidate, name) && (found.empty() || candidate < found)) {
-            found = candidate;
-        }
-    }
-    return found;
-}
-
-/// Gives each component of `native` the name under which it is there, up to the first that is not;
-/// the separators stay as they are. Whether all of it is there.
-bool GiveRealNames(std::string& native) {
-    if (IsThere(native)) {
+/// Replaces each component of `native` by its name on the disk, up to the first that does not
+/// exist. The separators stay. Returns whether all of it exists.
+bool CorrectNames(std::string& native, FolderNames& names) {
+    if (NameExists(native)) {
         return true;
     }
     std::size_t start = native.find_first_not_of('/');
     while (start != std::string::npos) {
         const std::size_t end = std::min(native.find('/', start), native.size());
-        if (!IsThere(native.substr(0, end))) {
+        if (!NameExists(native.substr(0, end))) {
             const std::string folder = start == 0 ? "." : native.substr(0, start);
-            const std::string name = NameInFolder(folder, native.substr(start, end - start));
-            if (name.empty()) {
+            const std::string* name = names.Find(folder, native.substr(start, end - start));
+            if (name == nullptr) {
                 return false;
             }
-            native.replace(start, end - start, name);
+            native.replace(start, end - start, *name);
         }
         start = native.find_first_not_of('/', end);
     }
-    return IsThere(native);
+    return NameExists(native);
 }
 
 }  // namespace
+
+bool HasDrive(std::string_view path) {
+    return path.size() >= 2 && path[1] == ':' && IsLetter(path[0]);
+}
 
 std::optional<std::string> NativePath(std::string_view path) {
     if (path.empty() || path.find('\0') != std::string_view::npos) {
@@ -83,18 +70,39 @@ std::optional<std::string> NativePath(std::string_view path) {
 
 std::optional<std::string> FindPath(std::string_view path) {
     std::optional<std::string> native = NativePath(path);
-    if (native && !GiveRealNames(*native)) {
+    FolderNames names;
+    if (native && !CorrectNames(*native, names)) {
         native.reset();
     }
     return native;
 }
 
-std::optional<std::string> TargetPath(std::string_view path) {
+const std::string* FolderNames::Find(const std::string& folder, std::string_view name) {
+    const auto [listed, isNew] = folders_.try_emplace(folder);
+    ByLowerCase& names = listed->second;
+    if (isNew) {
+        const std::unique_ptr<DIR, int (*)(DIR*)> listing(opendir(folder.c_str()), closedir);
+        while (const dirent* entry = listing ? readdir(listing.get()) : nullptr) {
+            const std::string candidate = entry->d_name;
+            std::string& first = names.try_emplace(LowerCase(candidate), candidate).first->second;
+            first = std::min(first, candidate);
+        }
+    }
+    const auto found = names.find(LowerCase(name));
+    return found == names.end() ? nullptr : &found->second;
+}
+
+std::optional<std::string> TargetPath(std::string_view path, FolderNames& names) {
     std::optional<std::string> native = NativePath(path);
     if (native) {
-        GiveRealNames(*native);
+        CorrectNames(*native, names);
     }
     return native;
+}
+
+std::optional<std::string> TargetPath(std::string_view path) {
+    FolderNames names;
+    return TargetPath(path, names);
 }
 
 std::optional<std::string> FindProgram(std::string_view path) {

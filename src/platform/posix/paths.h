@@ -1,34 +1,49 @@
-// The door between the paths of the system (Windows paths, this machine's tree being drive Z:) and
-// native ones. Native paths go in as well and come out unchanged but for their backslashes.
+// Conversion between Zorvane's paths (Windows paths, with the file tree as drive Z:) and native
+// ones. In a native path that comes in, only backslashes change.
 #pragma once
 
 #include <optional>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 
 namespace platform {
 
-/// `Z:\home\u` or `/home/u` as `/home/u`; a path without a drive stays relative. Nothing for
-/// another drive, which is not there, or a text that no path can be (a NUL inside).
+/// Whether the path begins with a letter and a colon.
+bool HasDrive(std::string_view path);
+
+/// Returns `/home/u` for `Z:\home\u` and `/home/u`; a path without a drive stays relative. Returns
+/// nothing for another drive and for a text that cannot be a path (empty, or with a NUL inside).
 std::optional<std::string> NativePath(std::string_view path);
 
-/// The native path of what `path` names, looked up component by component: the exact name first,
-/// then in name order the first that is equal but for the case of ASCII letters. Nothing when it is
-/// not there. A link counts as being there, wherever it leads.
+/// Returns the native path of what `path` names, or nothing if it does not exist. Of each component
+/// the exact name comes first, then the first name, in byte order, that differs in ASCII case only.
+/// A link exists, wherever it leads.
 std::optional<std::string> FindPath(std::string_view path);
 
-/// As FindPath, but what is not there keeps its name: the place where a new file goes. Nothing only
-/// where NativePath gives nothing.
+/// The listings of folders that look-ups needed, so that several of them list each folder once.
+class FolderNames {
+  public:
+    /// The first name in the folder that equals `name` but for case, null if there is none.
+    const std::string* Find(const std::string& folder, std::string_view name);
+
+  private:
+    using ByLowerCase = std::unordered_map<std::string, std::string>;
+    std::unordered_map<std::string, ByLowerCase> folders_;
+};
+
+/// As FindPath, but a missing component keeps its name: the place for a new file. Returns nothing
+/// only if NativePath does.
+std::optional<std::string> TargetPath(std::string_view path, FolderNames& names);
 std::optional<std::string> TargetPath(std::string_view path);
 
-/// As FindPath for a regular file; a path that ends in `.exe` and finds none stands for the same
-/// path without that ending.
+/// As FindPath for a regular file. If `foo.exe` is missing, returns `foo`.
 std::optional<std::string> FindProgram(std::string_view path);
 
-/// `/home/u` as `Z:\home\u`.
+/// Returns `Z:\home\u` for `/home/u`.
 std::string WindowsPath(std::string_view native);
 
-/// What a person is shown: in each line everything from a `Z:\` on as a native path.
+/// Returns the text as it is shown: in each line, everything from `Z:\` on becomes a native path.
 std::string NativeText(std::string_view text);
 
 }  // namespace platform

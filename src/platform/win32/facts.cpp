@@ -10,7 +10,8 @@
 namespace platform {
 
 // Windows keeps the command line itself.
-std::optional<int> RememberArguments(int /*argumentCount*/, char** /*arguments*/) {
+std::optional<int> InitialiseProcess(int /*argumentCount*/, char** /*arguments*/) {
+    ::SetDefaultDllDirectories(LOAD_LIBRARY_SEARCH_SYSTEM32);
     return std::nullopt;
 }
 
@@ -31,8 +32,7 @@ VersionNumbers ProgramVersion() {
     if (resource == nullptr) {
         return {};
     }
-    // The numbers stand behind three words and the name "VS_VERSION_INFO", on a border of four
-    // bytes.
+    // The record follows three words and the name "VS_VERSION_INFO", aligned to four bytes.
     constexpr DWORD Before = 40;
     VS_FIXEDFILEINFO facts = {};
     if (::SizeofResource(nullptr, place) < Before + sizeof facts) {
@@ -53,6 +53,10 @@ std::string OwnCommandLine() {
     }
     rest.remove_prefix(std::min(rest.find_first_not_of(" \t"), rest.size()));
     return std::string(rest);
+}
+
+std::vector<std::string> RefusedArguments() {
+    return {};
 }
 
 void EndProcess() {

@@ -1,4 +1,4 @@
-// What stands in a folder: ordinary files, by name and by pattern.
+// Looks up files and lists folders.
 #include <algorithm>
 
 #include "platform/files.h"
@@ -17,7 +17,7 @@ bool IsOrdinary(DWORD attributes) {
     return attributes != INVALID_FILE_ATTRIBUTES && (attributes & Excluded) == 0;
 }
 
-/// Calls `take` with each entry that the file system finds for a path with wildcards.
+/// Calls `take` with each entry that matches a path with wildcards.
 template <typename Take>
 void Search(const std::string& path, Take take) {
     WIN32_FIND_DATAW found;
@@ -49,10 +49,14 @@ std::optional<std::string> LookUpFileName(const std::string& path) {
     if (IsOrdinaryFile(path)) {
         Search(path, [&](const WIN32_FIND_DATAW& found) { name = Bytes(found.cFileName); });
     }
-    // A file that was asked for by its short name keeps that one, so that the folder before it can
-    // be told.
+    // A short name stays: the caller cuts as many characters off the path to get the folder.
     const std::string asked = path.substr(path.find_last_of("/\\:") + 1);
     return name.empty() || name.size() == asked.size() ? name : asked;
+}
+
+// Windows itself allows neither character in a name.
+Outcome CheckNativeName(std::string_view /*path*/) {
+    return {};
 }
 
 std::vector<std::string> ListFiles(const std::string& directory, const std::string& pattern) {
