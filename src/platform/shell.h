@@ -45,8 +45,8 @@ inline constexpr std::uint32_t SeeMaskNoCloseProcess = 64;
 
 /// Opens lpFile by its default verb: starts a program with the parameters in the directory, or
 /// passes a document or URL to the desktop's program for it. Returns at once whether that was
-/// accepted. On Linux a document is told from a program by its extension first and its execute
-/// permission second; if `foo.exe` is missing, `foo` is started; and a parameter that begins with
+/// accepted. On Linux a file with the extension of a document, or without execute permission, is a
+/// document; if `foo.exe` is missing, `foo` is started; and a parameter that begins with
 /// `Z:\` becomes a native path.
 Outcome ShellExecuteExA(ShellExecuteInfo& info);
 

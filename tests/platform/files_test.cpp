@@ -1,4 +1,4 @@
-// What the contracts of files and facts promise on every system.
+// The contracts of files and facts, on every system.
 #include "platform/files.h"
 
 #include <gtest/gtest.h>
@@ -86,7 +86,7 @@ TEST(Files, AreListedByPatternInNameOrder) {
     EXPECT_TRUE(platform::ListFiles(folder.Path("none"), "*").empty());
 }
 
-TEST(WholeFiles, TakeThePlaceOfTheOldOne) {
+TEST(WholeFiles, ReplaceTheOldOne) {
     const TempFolder folder;
     const std::string bytes = std::string(100000, 'x') + std::string("\0\r\n\xff", 4);
     EXPECT_TRUE(platform::ReplaceWholeFile(folder.Path("new.cfg"), "first"));
@@ -104,7 +104,7 @@ TEST(WholeFiles, TakeThePlaceOfTheOldOne) {
     EXPECT_EQ(read, "");
 }
 
-TEST(WholeFiles, TakeTheRemainsOfKilledRunsAway) {
+TEST(WholeFiles, RemoveTemporaryFilesOfKilledRuns) {
     const TempFolder folder;
     const std::string path = folder.Path("a.cfg");
     folder.Write(".zorvane-99999999-0123", "no process has this id");

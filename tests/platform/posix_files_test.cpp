@@ -1,4 +1,4 @@
-// What only this system's files, paths and arguments can go wrong with.
+// Files, paths and arguments of Linux.
 #include <fcntl.h>
 #include <gtest/gtest.h>
 #include <sys/resource.h>
@@ -43,7 +43,7 @@ TEST(PosixFiles, PipesDevicesAndHiddenFilesAreNotOrdinary) {
     EXPECT_EQ(platform::LookUpFileName(folder.Path("A:b.txt")), "a:b.txt");
 }
 
-TEST(PosixFiles, AStandInGoesByTheNameAskedForAndStaysToThisProcess) {
+TEST(PosixFiles, ProgramsAreFoundUnderTheirNameOnWindows) {
     const TempFolder folder;
     File game;
     EXPECT_TRUE(game.Open(folder.Path("Game"), File::Access::Create));
@@ -52,7 +52,7 @@ TEST(PosixFiles, AStandInGoesByTheNameAskedForAndStaysToThisProcess) {
     EXPECT_NE(fcntl(game.Handle(), F_GETFD) & FD_CLOEXEC, 0) << "open in started programs";
 }
 
-TEST(PosixFiles, ReplacingKeepsRightsAndFollowsLinks) {
+TEST(PosixFiles, ReplacingKeepsPermissionsAndFollowsLinks) {
     const TempFolder folder;
     folder.Write("real/a.cfg", "old");
     fs::permissions(folder.Native("real/a.cfg"), fs::perms(0604));
@@ -100,11 +100,11 @@ TEST(PosixFiles, WriteProtectionIsKept) {
     const TempFolder folder;
     const std::string old = folder.Write("a.cfg", "old");
     const uid_t user = geteuid();
-    constexpr uid_t nobody = 65534;
-    if (user == 0) {  // whom no rights bind
-        EXPECT_EQ(chown(folder.Native().c_str(), nobody, nobody), 0);
-        EXPECT_EQ(chown(folder.Native("a.cfg").c_str(), nobody, nobody), 0);
-        EXPECT_EQ(seteuid(nobody), 0);
+    constexpr uid_t Nobody = 65534;
+    if (user == 0) {  // whom no permissions bind
+        EXPECT_EQ(chown(folder.Native().c_str(), Nobody, Nobody), 0);
+        EXPECT_EQ(chown(folder.Native("a.cfg").c_str(), Nobody, Nobody), 0);
+        EXPECT_EQ(seteuid(Nobody), 0);
     }
     fs::permissions(folder.Native("a.cfg"), fs::perms(0444));
     EXPECT_FALSE(platform::ReplaceWholeFile(old, "new"));
@@ -146,7 +146,7 @@ TEST(PosixFacts, OwnArgumentsAreFullPathsInQuotes) {
     fs::current_path(before);
 }
 
-TEST(Paths, BecomeNativeAtTheDoor) {
+TEST(Paths, BecomeNative) {
     EXPECT_EQ(platform::NativePath(R"(z:\games/port\)"), "/games/port/");
     EXPECT_EQ(platform::NativePath("Z:"), "/");
     EXPECT_EQ(platform::NativePath("D:readme.txt"), std::nullopt);
@@ -160,7 +160,7 @@ TEST(Paths, AreShownNative) {
     EXPECT_EQ(platform::NativeText(R"(C:\a Z: Z:/ z)"), R"(C:\a Z: Z:/ z)");
 }
 
-TEST(Paths, AreFoundWhateverTheCase) {
+TEST(Paths, AreFoundInAnyCase) {
     const TempFolder folder;
     const std::string root = folder.Native();
     for (const char* name : {"Maps/b.wad", "Maps/B.WAD", "MAPS/x", "port/Game", "port/real.EXE"}) {
@@ -182,7 +182,7 @@ TEST(Paths, AreFoundWhateverTheCase) {
     EXPECT_EQ(names.Find(root, "none"), nullptr) << "a folder is listed once";
 }
 
-TEST(Arguments, AreSplitAtBlanksOutsideQuotes) {
+TEST(Arguments, AreSplitAtSpacesOutsideQuotes) {
     EXPECT_EQ(platform::SplitArguments("   "), Strings());
     EXPECT_EQ(platform::SplitArguments(R"( -iwad  "a b.wad" "c" "" a"b c"d "open end)"),
               (Strings{"-iwad", "a b.wad", "c", "", "ab cd", "open end"}));

@@ -1,36 +1,32 @@
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include <chrono>
+#include <cerrno>
 #include <csignal>
 #include <cstdlib>
-#include <functional>
 #include <thread>
 
 #include "platform/shell.h"
 #include "support/temp_folder.h"
 
 using platform::WaitForSingleObject;
-using namespace std::chrono_literals;
 
 namespace {
 
 namespace fs = std::filesystem;
-
-/// Whether something comes to be true in the time that a busy machine may need.
-bool Comes(const std::function<bool()>& condition) {
-    for (int round = 0; round < 1000 && !condition(); ++round) {
-        std::this_thread::sleep_for(10ms);
-    }
-    return condition();
-}
 
 class Shell : public testing::Test {
   protected:
     void WriteScript(std::string_view name, std::string_view commands) const {
         folder_.Write(name, "#!/bin/sh\n" + std::string(commands));
         fs::permissions(folder_.Native(name), fs::perms(0755));
+    }
+
+    /// Opening either end waits for the other.
+    void MakePipe(std::string_view name) const {
+        ASSERT_EQ(mkfifo(folder_.Native(name).c_str(), 0600), 0);
     }
 
     bool Start(std::string_view name, const std::string& parameters = "",
@@ -46,17 +42,19 @@ class Shell : public testing::Test {
 };
 
 TEST_F(Shell, StartsAProgramInItsFolderAndSeesItsEnd) {
-    WriteScript("my port/Game", R"(sleep 0.4; printf '[%s]' "$PWD" "$@" > said)");
+    WriteScript("my port/Game", R"(read line < gate; printf '[%s]' "$PWD" "$@" > said)");
+    MakePipe("my port/gate");
     ASSERT_TRUE(Start("my port/game.exe", R"(-file "Z:\no wad" "" -x)", folder_.Path("MY PORT\\")));
     EXPECT_EQ(WaitForSingleObject(info_.hProcess, 0), 258U);
     EXPECT_EQ(WaitForSingleObject(info_.hProcess, 10), 258U);
+    std::ofstream(folder_.Native("my port/gate")) << "go on\n";
     EXPECT_EQ(WaitForSingleObject(info_.hProcess, 0xFFFFFFFF), 0U);
     EXPECT_EQ(WaitForSingleObject(info_.hProcess, 20000), 0U) << "it has ended already";
     const std::string home = folder_.Native("my port");
     EXPECT_EQ(folder_.Read("my port/said"), "[" + home + "][-file][/no wad][][-x]");
 }
 
-TEST_F(Shell, AProgramHasSignalsOfItsOwnAndNothingOfItRemains) {
+TEST_F(Shell, AProgramHasDefaultSignalsAndIsReaped) {
     WriteScript("game", "kill -INT $$; echo lives on > said");
     const auto handler = std::signal(SIGINT, SIG_IGN);
     for (int round = 0; round < 20; ++round) {
@@ -67,7 +65,10 @@ TEST_F(Shell, AProgramHasSignalsOfItsOwnAndNothingOfItRemains) {
     std::signal(SIGINT, handler);
     EXPECT_FALSE(info_.hProcess);
     siginfo_t ended = {};
-    EXPECT_TRUE(Comes([&] { return waitid(P_ALL, 0, &ended, WEXITED | WNOHANG | WNOWAIT) != 0; }));
+    while (waitid(P_ALL, 0, &ended, WEXITED | WNOWAIT) == 0) {
+        std::this_thread::yield();  // until the last one is reaped
+    }
+    EXPECT_EQ(errno, ECHILD);
     EXPECT_EQ(folder_.Read("said"), "");
 }
 
@@ -76,7 +77,8 @@ TEST_F(Shell, DocumentsFoldersAndUrlsGoToTheDesktop) {
     folder_.Write("doc/bytes.dat", "no program, whatever its rights say");
     fs::permissions(folder_.Native("doc/bytes.dat"), fs::perms(0755));
     WriteScript("evil.txt", "echo executed > said");
-    WriteScript("bin/xdg-open", R"(printf '[%s]' "$PWD" "$@" > said.new; mv said.new said)");
+    WriteScript("bin/xdg-open", R"(printf '[%s]' "$PWD" "$@" > said)");
+    MakePipe("said");
     const std::string oldPath = std::getenv("PATH");
     setenv("PATH", (folder_.Native("bin").string() + ':' + oldPath).c_str(), 1);
     const std::pair<const char*, std::string> rows[] = {
@@ -89,10 +91,7 @@ TEST_F(Shell, DocumentsFoldersAndUrlsGoToTheDesktop) {
     };
     for (const auto& [what, opened] : rows) {
         ASSERT_TRUE(Start(what, "", folder_.Path())) << what;
-        std::string said;
-        EXPECT_TRUE(Comes([&] { return !(said = folder_.Read("said")).empty(); })) << what;
-        EXPECT_EQ(said, "[" + folder_.Native().string() + "][" + opened + "]");
-        fs::remove(folder_.Native("said"));
+        EXPECT_EQ(folder_.Read("said"), "[" + folder_.Native().string() + "][" + opened + "]");
         EXPECT_FALSE(info_.hProcess);
     }
     setenv("PATH", folder_.Native("doc").c_str(), 1);

@@ -1,4 +1,4 @@
-// What texts, files and programs are on Windows alone.
+// Texts, files and programs of Windows.
 #include <gtest/gtest.h>
 
 #include "platform/files.h"
@@ -64,7 +64,7 @@ BOOL Next(std::vector<DWORD>& errors, const char* call) {
     return TRUE;
 }
 
-TEST(WindowsFiles, AreReplacedInSpiteOfErrorsThatPass) {
+TEST(WindowsFiles, AreReplacedAfterPassingErrors) {
     const platform::ReplaceCalls calls = {
         [](const wchar_t*, const wchar_t*, const wchar_t*, DWORD, void*, void*) {
             return Next(failing->replaceErrors, "replaced");
@@ -91,7 +91,7 @@ TEST(WindowsFiles, AreReplacedInSpiteOfErrorsThatPass) {
     }
 }
 
-TEST(WindowsShell, DoesNotWaitForAProcessThatIsNone) {
+TEST(WindowsShell, DoesNotWaitWithoutAProcess) {
     EXPECT_EQ(platform::WaitForSingleObject(platform::ProcessHandle(), 1), 0xFFFFFFFFU);
 }
 

@@ -106,10 +106,10 @@ std::optional<std::string> TargetPath(std::string_view path) {
 }
 
 std::optional<std::string> FindProgram(std::string_view path) {
-    constexpr std::string_view ending = ".exe";
+    constexpr std::string_view Ending = ".exe";
     std::optional<std::string> native = FindPath(path);
-    if (!native && EndsWithIgnoringCase(path, ending)) {
-        native = FindPath(path.substr(0, path.size() - ending.size()));
+    if (!native && EndsWithIgnoringCase(path, Ending)) {
+        native = FindPath(path.substr(0, path.size() - Ending.size()));
     }
     if (native && !IsRegular(*native)) {
         native.reset();

@@ -50,8 +50,8 @@ Outcome OpenOnDesktop(const std::string& target, const std::string& folder) {
                   : Outcome{false, "There is no xdg-open to open it with"};
 }
 
-/// Whether the name is that of a document. An archive, or a disk of Windows, gives every file the
-/// permission to execute, so the permission says nothing about these kinds.
+/// Whether the extension is that of a document. Archives and Windows disks set the permission to
+/// execute for every file, so it says nothing about these.
 bool IsDocument(std::string_view path) {
     constexpr std::string_view Extensions[] = {
         ".txt", ".md",  ".rtf", ".doc", ".odt", ".pdf", ".htm", ".html", ".log", ".cfg", ".ini",

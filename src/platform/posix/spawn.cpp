@@ -1,7 +1,7 @@
 #include "platform/posix/spawn.h"
 
 extern "C" {
-#include <sys/pidfd.h>  // says nothing to C++ of its own language in glibc 2.36
+#include <sys/pidfd.h>  // lacks extern "C" in glibc 2.36
 }
 #include <signal.h>
 #include <spawn.h>
@@ -15,7 +15,7 @@ extern "C" {
 namespace platform {
 namespace {
 
-/// What the child is to be before it becomes the program.
+/// Signals, session and working directory of the child.
 class ChildSettings {
   public:
     explicit ChildSettings(const std::string& folder) {
@@ -47,17 +47,17 @@ class ChildSettings {
     posix_spawn_file_actions_t actions_ = {};
 };
 
-/// Sleeps beside the window until the child ends. A signal handler would do the same to children of
-/// the window toolkit, which waits for its own.
-void CollectAtItsEnd(pid_t child) {
-    const auto collect = [child] {
+/// Reaps the child on a detached thread. A handler of SIGCHLD would also reap children that the
+/// window toolkit waits for.
+void ReapAtEnd(pid_t child) {
+    const auto reap = [child] {
         while (waitpid(child, nullptr, 0) < 0 && errno == EINTR) {
         }
     };
     try {
-        std::thread(collect).detach();
+        std::thread(reap).detach();
     } catch (const std::system_error&) {
-        // No thread to be had: the child is collected when this process ends.
+        // Without a thread the child stays a zombie until Zorvane ends.
     }
 }
 
@@ -76,9 +76,9 @@ Spawned Spawn(const std::vector<std::string>& arguments, const std::string& fold
     spawned.error = posix_spawn(&child, pointers[0], settings.Actions(), settings.Attributes(),
                                 pointers.data(), environ);
     if (spawned.error == 0) {
-        // Close-on-exec comes with every pidfd.
+        // Every pidfd is close-on-exec.
         spawned.handle = ProcessHandle(pidfd_open(child, 0));
-        CollectAtItsEnd(child);
+        ReapAtEnd(child);
     }
     return spawned;
 }

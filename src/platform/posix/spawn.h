@@ -7,15 +7,15 @@
 
 namespace platform {
 
-/// How a start ended: 0 and the process, or the `errno` value that says why there is none.
+/// The started process, or the `errno` value of the failure.
 struct Spawned {
     int error = 0;
     ProcessHandle handle;
 };
 
-/// Starts the program arguments[0] (an absolute native path) in `folder` (the current one when
-/// empty), in a session of its own and with every signal as it was at login, so that it outlives
-/// us. Its end is collected whether or not anybody waits for it.
+/// Starts the program arguments[0] (an absolute native path) in `folder` (the current one if
+/// empty). It gets a session of its own and default signals, so that it outlives Zorvane. It is
+/// reaped when it ends, also if nothing waits for it.
 Spawned Spawn(const std::vector<std::string>& arguments, const std::string& folder);
 
 }  // namespace platform

@@ -49,7 +49,7 @@ Outcome CheckTarget(const std::string& target, mode_t& mode) {
     return faccessat(AT_FDCWD, target.c_str(), W_OK, AT_EACCESS) == 0 ? Outcome{} : Failure(errno);
 }
 
-/// Gives the new file the owner and mode of the old one. Only root may change the owner, and some
+/// Copies the owner and mode of the old file. Only root may change the owner, and some
 /// file systems have no permissions: neither is a reason to lose what was written.
 Outcome CopyPermissions(const std::string& target, int descriptor) {
     struct stat old = {};

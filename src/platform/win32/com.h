@@ -1,11 +1,11 @@
-// The Component Object Model, which the shell's services want to be ready on their thread.
+// COM, which the services of the shell need.
 #pragma once
 
 #include "platform/win32/late.h"
 
 namespace platform {
 
-/// Makes it ready for as long as this lives. Does no harm where it is ready already.
+/// Initialises COM on this thread for the lifetime of the object. It may be initialised already.
 class ComApartment {
   public:
     ComApartment() : result_(LATE(ole32, CoInitializeEx)(nullptr, COINIT_APARTMENTTHREADED)) {}

@@ -16,7 +16,7 @@ OVERLAPPED At(std::int64_t position) {
     return place;
 }
 
-/// One call of the system takes no more than a DWORD counts.
+/// One call transfers less than 4 GiB.
 DWORD Piece(std::size_t size) {
     constexpr std::size_t Largest = std::size_t{1} << 30;
     return static_cast<DWORD>(size < Largest ? size : Largest);

@@ -1,4 +1,4 @@
-// Between the bytes of the system's texts and the wide texts of Windows.
+// Conversion between Zorvane's texts and the UTF-16 of Windows.
 #pragma once
 
 #include <string>
@@ -6,14 +6,13 @@
 
 namespace platform {
 
-/// Decodes UTF-8, or Windows-1252 for a text that is not valid UTF-8, so that old files show as
-/// they were meant.
+/// Decodes UTF-8, or Windows-1252 if the text is not valid UTF-8, as in old settings files.
 std::wstring Wide(std::string_view text);
 
 /// Encodes as UTF-8.
 std::string Bytes(std::wstring_view text);
 
-/// The words of Windows for an error code of GetLastError.
+/// Returns the message of Windows for a result of GetLastError, without its final dot.
 std::string ErrorText(unsigned long code);
 
 }  // namespace platform

@@ -1,4 +1,4 @@
-// The one door to the headers of Windows, with the macros that would take our names away undone.
+// The headers of Windows, without the macros that would rename our functions.
 #pragma once
 
 #define UNICODE
