@@ -4,6 +4,7 @@
 #include <array>
 #include <utility>
 
+#include "config/writer.h"
 #include "platform/facts.h"
 #include "platform/files.h"
 #include "state/engine_files.h"
@@ -91,10 +92,14 @@ void StoreLists() {
     const ConfigMapRef engines = ListOf("engines");
     engines->RemoveAll();
     for (const EngineRecord& engine : Engines) {
+        const std::string key = EngineKey(engine.realname);
+        if (!KeyCanBeReadBack(key)) {
+            continue;  // in the file, it would change the settings after it
+        }
         const ConfigMapRef entry = std::make_shared<ConfigMap>();
         entry->Add("path", engine.path);
         entry->Add("options", OptionsToString(engine.options));
-        engines->Add(EngineKey(engine.realname), entry);
+        engines->Add(key, entry);
     }
     const ConfigMapRef pwads = ListOf("pwads");
     pwads->RemoveAll();

@@ -37,7 +37,8 @@ void InitialiseSettings();
 /// goes, with a message.
 [[nodiscard]] bool LoadSettings();
 
-/// Copies the three lists into Settings and writes the file.
+/// Copies the three lists into Settings and writes the file. An engine whose key could not be read
+/// back has no entry.
 [[nodiscard]] platform::Outcome SaveSettings();
 
 /// Writes Settings to the file as it is, atomically: a failure leaves the old file whole. A file

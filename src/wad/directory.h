@@ -28,7 +28,7 @@ class WadDirectory {
     static constexpr std::size_t EntryBytes = 16;
 
     /// Replaces the directory by `count` entries (not negative) at `offset`, in one read. Returns
-    /// false, and changes nothing, if there is not enough memory.
+    /// false, and changes nothing, if the file cannot be read or there is not enough memory.
     [[nodiscard]] bool Read(const platform::File& file, std::int64_t offset, std::int32_t count);
     /// Appends an entry. Only the first 8 characters of the name are kept.
     void Add(std::int32_t filePos, std::int32_t size, std::string_view name);

@@ -41,7 +41,7 @@ class clsWad {
     std::vector<unsigned char> ReadLump(std::int32_t lumpNum) const;
     std::string ReadLumpString(std::int32_t lumpNum) const;
     /// Moves the file's read position to the lump's first byte. Returns the descriptor of the C
-    /// runtime, -1 if no file is open.
+    /// runtime, -1 on failure.
     std::int32_t SeekLump(std::int32_t lumpIndex) const;
 
     /// Number of bytes in the file that belong to neither header, directory nor lumps. Negative if

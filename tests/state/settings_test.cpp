@@ -116,6 +116,23 @@ TEST_F(SettingsCase, StartsWithWhatIsLeftOfAFileAndKeepsTheFirstOne) {
     EXPECT_FALSE(exists(folder.Native("zorvane.cfg.damaged"))) << "only a damaged file is kept";
 }
 
+TEST_F(SettingsCase, StoresNoEngineWhoseKeyCouldNotBeReadBack) {
+    DefineEngine("Last");
+    folder.Write("engines/A.cfg", "type = \"Zorvane engine file\"; realname = \"A } b = {\";");
+    ASSERT_TRUE(Start());
+    for (int engine = 0; engine < EngineCount(); ++engine) {
+        EngineAt(engine).path = "C:\\" + std::to_string(engine);
+    }
+    FileList.Add("C:\\kept.wad");
+    Exit();
+    ASSERT_TRUE(Start());
+    ASSERT_EQ(EngineAt(0).realname, "A } b = {");
+    EXPECT_EQ(EngineAt(0).path, "");
+    EXPECT_EQ(EngineAt(1).path, "C:\\1");
+    EXPECT_EQ(EngineAt(2).path, "C:\\2");
+    EXPECT_EQ(FileList.Item(0), "C:\\kept.wad");
+}
+
 TEST_F(SettingsCase, ConvertsValuesOfOtherTypes) {
     WriteSettings(
         "iwads = 5; engines = \"x\"; pwads = 1; engine = \"\"; deathmatch = \"1\"; map {}"
