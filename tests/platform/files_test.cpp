@@ -136,7 +136,8 @@ TEST(WholeFiles, AreCopiedAndRemoved) {
     EXPECT_FALSE(platform::CopyWholeFile(from, folder.Path("TEMP.lmp")).reason.empty());
     EXPECT_FALSE(platform::CopyWholeFile(from, folder.Path("none/a.lmp")));
     EXPECT_FALSE(platform::CopyWholeFile(folder.Path("none.lmp"), to));
-    EXPECT_TRUE(folder.Read("old.lmp") == bytes && folder.Read("temp.lmp") == bytes);
+    EXPECT_EQ(folder.Read("old.lmp"), bytes);
+    EXPECT_EQ(folder.Read("temp.lmp"), bytes);
     EXPECT_TRUE(platform::RemoveFile(folder.Path("Temp.lmp")));
     EXPECT_FALSE(platform::RemoveFile(from));
     EXPECT_EQ(folder.Count(), 1);

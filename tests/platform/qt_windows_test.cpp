@@ -1,11 +1,15 @@
 // What only the Qt windows have to keep: how texts look, names for screen readers, keys in lists.
 #include <gtest/gtest.h>
 
+#include <QAbstractEventDispatcher>
 #include <QTest>
+#include <QTimer>
 #include <QWidget>
 
 #include "contract/form.h"
 #include "driver.h"
+#include "platform/shell.h"
+#include "toolkit/desktop.h"
 #include "toolkit/qt/native_windows.h"
 
 namespace {
@@ -50,6 +54,22 @@ TEST_F(QtWindow, ShowsUtf8OrElseWindows1252AndPathsWherePathsStand) {
     form.lstRows.SetToolTip("Z:\\<b>x</b>.wad");
     EXPECT_TRUE(WidgetOf(form.lstRows).toolTip().contains(QStringLiteral("&lt;b&gt;")))
         << "a name is no mark-up";
+}
+
+TEST(QtEvents, RunUntilAProcessEndsWithoutPolling) {
+    platform::ShellExecuteInfo info = {
+        platform::SeeMaskNoCloseProcess, "Z:\\bin\\sleep", "0.5", "", 0, {}};
+    ASSERT_TRUE(platform::ShellExecuteExA(info));
+    int rounds = 0;
+    int timeouts = 0;
+    QTimer::singleShot(100, [&] { ++timeouts; });
+    const auto counter = QObject::connect(QAbstractEventDispatcher::instance(),
+                                          &QAbstractEventDispatcher::awake, [&] { ++rounds; });
+    desktop::RunEventsUntilEnd(info.hProcess);
+    QObject::disconnect(counter);
+    EXPECT_EQ(platform::WaitForSingleObject(info.hProcess, 0), 0U);
+    EXPECT_EQ(timeouts, 1) << "events are handled";
+    EXPECT_LT(rounds, 10);
 }
 
 }  // namespace
