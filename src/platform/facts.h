@@ -25,8 +25,9 @@ std::string ProgramDirectory();
 /// The executable's own version.
 VersionNumbers ProgramVersion();
 
-/// The command line after the program's name. On Linux each argument is a full Windows path in
-/// double quotes, separated by a space; RefusedArguments are left out.
+/// The arguments of the command line, separated by single spaces. An argument that names an
+/// existing file is a full Windows path in double quotes. On Linux all other arguments are quoted
+/// too, without RefusedArguments; on Windows they are as they were typed.
 std::string OwnCommandLine();
 
 /// Names of files on the command line that Zorvane cannot use (see CheckNativeName in files.h).

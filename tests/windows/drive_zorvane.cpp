@@ -171,7 +171,11 @@ void FirstRun() {
 
 void SecondRun() {
     const std::string settings = Read("zorvane.cfg");
-    const HANDLE zorvane = Start(folder + "\\zorvane.exe");
+    // As if the files of the list were dropped on the program: Explorer quotes paths with spaces.
+    const std::string wads = folder + "\\wads\\";
+    const HANDLE zorvane =
+        Start(folder + "\\zorvane.exe",
+              wads + "castle.wad \"" + wads + "a b.deh\" gone.wad " + wads + "patch.wad");
     Check(SendMessageW(Find(frmMain.chkDeathmatch), BM_GETCHECK, 0, 0) == BST_CHECKED,
           "a box is back");
     Press(Find(frmMain.cmdRun));

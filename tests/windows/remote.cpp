@@ -60,11 +60,12 @@ void WaitUntil(const std::function<bool()>& isSo, const std::string& what) {
     }
 }
 
-HANDLE Start(const std::string& file) {
+HANDLE Start(const std::string& file, const std::string& arguments) {
     STARTUPINFOW start = {};
     start.cb = sizeof start;
     PROCESS_INFORMATION process = {};
-    CreateProcessW(platform::Wide(file).c_str(), nullptr, nullptr, nullptr, FALSE, 0, nullptr,
+    std::wstring line = platform::Wide('"' + file + "\" " + arguments);
+    CreateProcessW(platform::Wide(file).c_str(), line.data(), nullptr, nullptr, FALSE, 0, nullptr,
                    nullptr, &start, &process);
     return process.hProcess;
 }

@@ -18,8 +18,8 @@ void Check(bool right, const std::string& what);
 void CheckEqual(const std::string& got, const std::string& wanted, const std::string& what);
 void WaitUntil(const std::function<bool()>& isSo, const std::string& what);
 
-/// Starts a program; gives its process.
-HANDLE Start(const std::string& file);
+/// Starts a program and returns its process handle.
+HANDLE Start(const std::string& file, const std::string& arguments = {});
 /// Waits for the end of a process and gives its exit code.
 DWORD ExitCode(HANDLE process);
 

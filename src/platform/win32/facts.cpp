@@ -8,6 +8,36 @@
 #include "platform/win32/windows_headers.h"
 
 namespace platform {
+namespace {
+
+constexpr wchar_t Spaces[] = L" \t";
+
+/// Returns the end of the argument at `start`. As in CommandLineToArgvW, double quotes may enclose
+/// any part of it. Its rule for a backslash before a quote is left out: no file name has a quote.
+std::size_t EndOfArgument(std::wstring_view line, std::size_t start) {
+    bool quoted = false;
+    std::size_t end = start;
+    while (end < line.size() &&
+           (quoted || std::wstring_view(Spaces).find(line[end]) == std::wstring_view::npos)) {
+        quoted ^= line[end++] == L'"';
+    }
+    return end;
+}
+
+/// Returns the full path in double quotes if the argument names an existing file, otherwise the
+/// argument as it is. Explorer quotes only paths with spaces.
+std::string QuotedIfFile(const std::wstring& argument) {
+    std::wstring name = argument;
+    std::erase(name, L'"');
+    const DWORD attributes = ::GetFileAttributesW(name.c_str());
+    wchar_t path[MAX_PATH] = L"";
+    const bool isFile = attributes != INVALID_FILE_ATTRIBUTES &&
+                        (attributes & FILE_ATTRIBUTE_DIRECTORY) == 0 &&
+                        ::GetFullPathNameW(name.c_str(), MAX_PATH, path, nullptr) < MAX_PATH;
+    return isFile ? '"' + Bytes(path) + '"' : Bytes(argument);
+}
+
+}  // namespace
 
 // Windows keeps the command line itself.
 std::optional<int> InitialiseProcess(int /*argumentCount*/, char** /*arguments*/) {
@@ -44,15 +74,17 @@ VersionNumbers ProgramVersion() {
 }
 
 std::string OwnCommandLine() {
-    const std::string all = Bytes(::GetCommandLineW());
-    const bool quoted = all.starts_with('"');
-    std::string_view rest = all;
-    rest.remove_prefix(std::min(all.find(quoted ? '"' : ' ', 1), all.size()));
-    if (quoted && !rest.empty()) {
-        rest.remove_prefix(1);
+    const std::wstring all = ::GetCommandLineW();
+    std::string result;
+    std::size_t end = EndOfArgument(all, 0);  // of the program's own name
+    for (;;) {
+        const std::size_t start = all.find_first_not_of(Spaces, end);
+        if (start == std::wstring::npos) {
+            return result;
+        }
+        end = EndOfArgument(all, start);
+        result += (result.empty() ? "" : " ") + QuotedIfFile(all.substr(start, end - start));
     }
-    rest.remove_prefix(std::min(rest.find_first_not_of(" \t"), rest.size()));
-    return std::string(rest);
 }
 
 std::vector<std::string> RefusedArguments() {

@@ -38,7 +38,8 @@ Outcome ShellExecuteExA(ShellExecuteInfo& info) {
     const std::wstring directory = Wide(info.lpDirectory);
     SHELLEXECUTEINFOW record = {};
     record.cbSize = sizeof record;
-    record.fMask = info.fMask;
+    // Without this flag Windows shows an error message of its own before the caller's.
+    record.fMask = info.fMask | SEE_MASK_FLAG_NO_UI;
     record.lpFile = file.c_str();
     record.lpParameters = parameters.c_str();
     record.lpDirectory = directory.c_str();

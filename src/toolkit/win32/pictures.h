@@ -7,8 +7,8 @@
 
 namespace desktop {
 
-/// Resource number of the program's icon. The shell shows the lowest one.
-inline const wchar_t* const ProgramIcon = MAKEINTRESOURCEW(1);
+/// Resource name of the program's icon. The shell shows the first icon by name.
+inline constexpr wchar_t ProgramIcon[] = L"app";
 
 /// Loads a picture in the largest size of at most `size` pixels. Returns null if there is no such
 /// picture.
