@@ -187,6 +187,9 @@ Look LookAt(const toolkit::Control& control) {
                  .visible = IsWindowVisible(handle) != 0,
                  .focused = handle == GetFocus() || IsChild(handle, GetFocus()) != 0};
     const Kind kind = control.GetKind();
+    if (control.Has(toolkit::Link)) {
+        look.text = ReplaceAll(ReplaceAll(look.text, "<a>", ""), "</a>", "");
+    }
     if (kind == Kind::ListView) {
         for (WPARAM row = 0; row < static_cast<WPARAM>(Ask(control, LVM_GETITEMCOUNT)); ++row) {
             look.items.push_back(CellOf(control, row, 0) + '|' + CellOf(control, row, 1));

@@ -90,6 +90,8 @@ void SetUp() {
     Press(Find(frmSetup.cmdPath));
     AnswerFolderDialog(folder + "\\port");
     TakePicture(Find("Program setup"), "setup");
+    const auto style = GetWindowLongPtrW(Find(frmSetup.cmdOK), GWL_STYLE);
+    Check((style & BS_TYPEMASK) == BS_PUSHBUTTON, "only the focused button has the default ring");
     Press(Find(frmSetup.cmdEngineSettings));
     frmEngineSettings.SetCaption("Engine settings of Chocolate Doom");
     Press(Find(frmEngineSettings.chkOptions[4]));
@@ -102,6 +104,7 @@ void SetUp() {
 }
 
 void ChooseFiles() {
+    constexpr LPARAM ByKeyboard = -1;
     const std::string title = "Please select the WAD file you want to add";
     Write("wads\\castle.txt", "About the castle");
     Write("wads\\a b.deh", "");
@@ -115,7 +118,7 @@ void ChooseFiles() {
     ChooseRow(list, 0);
     Check(IsWindowEnabled(Find(frmMain.cmdGetMapLump)), "a selected WAD has maps to offer");
     Check(IsWindowEnabled(Find(frmMain.cmdShowTextFile)), "and its text file");
-    PostMessageW(list, WM_RBUTTONUP, 0, MAKELPARAM(20, 8));
+    PostMessageW(Find("Zorvane"), WM_CONTEXTMENU, reinterpret_cast<WPARAM>(list), ByKeyboard);
     const HWND menu = Find("", L"#32768");
     TakePicture(Find("Zorvane"), "menu");
     PostMessageW(menu, WM_KEYDOWN, VK_DOWN, 1);
@@ -161,9 +164,12 @@ void FirstRun() {
     Press(Find(frmMain.chkDeathmatch));
     Type(Find(frmMain.txtParameters), "-turbo 120  ");
     TakePicture(Find("Zorvane"), "main");
+    PostMessageW(Find(frmMain.cmbSkill), WM_MOUSEWHEEL, MAKEWPARAM(0, WHEEL_DELTA), 0);
     RunGames();
     Press(Find(frmMain.cmdAbout));
     TakePicture(Find("Zorvane credits"), "credits");
+    PostMessageW(Find(frmCredits.cmdOK), WM_KEYDOWN, VK_TAB, 1);
+    WaitUntil([] { return Focused() == Find(frmCredits.lblLinkCoder); }, "the focus on the link");
     PostMessageW(Find(frmCredits.cmdOK), WM_KEYDOWN, VK_ESCAPE, 1);
     Press(Find(frmMain.cmdExit));
     Check(ExitCode(zorvane) == 0, "Exit ends the program");

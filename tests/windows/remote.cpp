@@ -93,6 +93,13 @@ HWND Find(const toolkit::Control& control) {
     return GetDlgItem(Find(owner.Caption()), desktop::ControlId(control));
 }
 
+HWND Focused() {
+    GUITHREADINFO state = {};
+    state.cbSize = sizeof state;
+    GetGUIThreadInfo(GetWindowThreadProcessId(GetForegroundWindow(), nullptr), &state);
+    return state.hwndFocus;
+}
+
 void Press(HWND button) {
     PostMessageW(button, BM_CLICK, 0, 0);
 }

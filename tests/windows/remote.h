@@ -28,6 +28,9 @@ DWORD ExitCode(HANDLE process);
 HWND Find(const std::string& caption, const wchar_t* className = desktop::WindowClassName);
 HWND Find(const toolkit::Control& control);
 
+/// The control with the focus in the active window; null if there is none.
+HWND Focused();
+
 void Press(HWND button);
 void Type(HWND field, const std::string& text);
 /// Chooses a row of a combo box without an edit field, or a list, by its keys.

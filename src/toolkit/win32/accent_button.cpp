@@ -12,17 +12,14 @@ constexpr COLORREF Pressed = RGB(0x8e, 0x29, 0x13);
 constexpr COLORREF Disabled = RGB(0xb9, 0xae, 0xaa);
 constexpr COLORREF Letters = RGB(0xff, 0xff, 0xff);
 
-bool IsHighContrast() {
-    HIGHCONTRASTW setting = {};
-    setting.cbSize = sizeof setting;
-    return ::SystemParametersInfoW(SPI_GETHIGHCONTRAST, sizeof setting, &setting, 0) &&
-           (setting.dwFlags & HCF_HIGHCONTRASTON) != 0;
+COLORREF TextColor() {
+    return IsHighContrast() ? ::GetSysColor(COLOR_HIGHLIGHTTEXT) : Letters;
 }
 
 class AccentButton : public NativeControl {
   public:
     AccentButton(NativeWindow& parent, toolkit::Button& button)
-        : NativeControl(parent, button, {WC_BUTTONW, BS_OWNERDRAW, 0, Face::Bold}),
+        : NativeControl(parent, button, {WC_BUTTONW, BS_OWNERDRAW | BS_NOTIFY, 0, Face::Bold}),
           button_(button) {}
 
     bool IsPushButton() const override { return true; }
@@ -70,13 +67,15 @@ void AccentButton::DrawItem(const DRAWITEMSTRUCT& item) {
     const Chosen fontChosen(item.hDC, font);
     const std::wstring text = platform::Wide(button_.Caption());
     ::SetBkMode(item.hDC, TRANSPARENT);
-    ::SetTextColor(item.hDC, IsHighContrast() ? ::GetSysColor(COLOR_HIGHLIGHTTEXT) : Letters);
+    ::SetTextColor(item.hDC, TextColor());
     ::DrawTextW(item.hDC, text.data(), static_cast<int>(text.size()), &place,
                 DT_CENTER | DT_VCENTER | DT_SINGLELINE | DT_NOPREFIX);
     if ((item.itemState & ODS_FOCUS) != 0 && (item.itemState & ODS_NOFOCUSRECT) == 0) {
         const int margin = GetMetrics().Scaled(3);
         ::InflateRect(&place, -margin, -margin);
-        ::DrawFocusRect(item.hDC, &place);
+        const OwnedPen ring(::CreatePen(PS_SOLID, GetMetrics().Scaled(1), TextColor()));
+        const Chosen ringChosen(item.hDC, ring.get());
+        ::RoundRect(item.hDC, place.left, place.top, place.right, place.bottom, round, round);
     }
 }
 

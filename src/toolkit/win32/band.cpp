@@ -55,6 +55,9 @@ void Band::Draw() {
 }
 
 HBRUSH Band::BackgroundBrush(HWND control, HDC context) {
+    if (IsHighContrast()) {
+        return ::GetSysColorBrush(COLOR_WINDOW);
+    }
     if (!brush_) {
         Draw();
     }

@@ -10,9 +10,14 @@ namespace {
 class NativeButton : public NativeControl {
   public:
     NativeButton(NativeWindow& parent, toolkit::Button& button)
-        : NativeControl(parent, button, {WC_BUTTONW, StyleOf(button)}), button_(button) {}
+        : NativeControl(parent, button,
+                        {WC_BUTTONW, StyleOf(button, button.Has(toolkit::Default))}),
+          button_(button) {}
 
     bool IsPushButton() const override { return true; }
+    void ShowDefault(bool isDefault) override {
+        Send(BM_SETSTYLE, StyleOf(button_, isDefault), TRUE);
+    }
 
   protected:
     void OnLayout() override;
@@ -20,9 +25,9 @@ class NativeButton : public NativeControl {
     std::wstring CaptionText() const override;
 
   private:
-    static DWORD StyleOf(const toolkit::Button& button) {
-        const DWORD kind = button.Has(toolkit::Default) ? BS_DEFPUSHBUTTON : BS_PUSHBUTTON;
-        return kind | (button.Spec().picture.empty() ? 0 : BS_ICON);
+    static DWORD StyleOf(const toolkit::Button& button, bool isDefault) {
+        const DWORD kind = isDefault ? BS_DEFPUSHBUTTON : BS_PUSHBUTTON;
+        return kind | BS_NOTIFY | (button.Spec().picture.empty() ? 0 : BS_ICON);
     }
 
     toolkit::Button& button_;

@@ -1,6 +1,7 @@
 #include "toolkit/win32/controls.h"
 
 #include <algorithm>
+#include <limits>
 #include <utility>
 
 #include "platform/win32/text.h"
@@ -62,6 +63,7 @@ std::unique_ptr<NativeControl> MakeControl(NativeWindow& parent, toolkit::Contro
 bool IsInTabOrder(const toolkit::Control& control) {
     switch (control.GetKind()) {
         case toolkit::Kind::Label:
+            return control.Has(toolkit::Link);
         case toolkit::Kind::Frame:
         case toolkit::Kind::Divider:
         case toolkit::Kind::Picture:
@@ -72,11 +74,14 @@ bool IsInTabOrder(const toolkit::Control& control) {
 }
 
 std::vector<toolkit::Control*> InStackingOrder(const toolkit::Window& window) {
-    // Layer, position in it, and the label before the control that it names.
+    // Layer, position in it (links last in the tab order), and the label before the control that it
+    // names.
     const auto key = [](const toolkit::Control* control) {
         const toolkit::Control& named = NamedBy(*control);
         if (IsInTabOrder(named)) {
-            return std::tuple(0, named.Spec().tab, &named == control ? 1 : 0);
+            const int tab =
+                named.Spec().tab >= 0 ? named.Spec().tab : std::numeric_limits<int>::max();
+            return std::tuple(0, tab, &named == control ? 1 : 0);
         }
         return std::tuple(control->GetKind() == toolkit::Kind::Frame ? 2 : 1, -control->Index(), 0);
     };

@@ -7,8 +7,9 @@
 namespace desktop {
 
 void StartDesktop() {
-    const INITCOMMONCONTROLSEX classes = {
-        sizeof classes, ICC_STANDARD_CLASSES | ICC_LISTVIEW_CLASSES | ICC_BAR_CLASSES};
+    const INITCOMMONCONTROLSEX classes = {sizeof classes, ICC_STANDARD_CLASSES |
+                                                              ICC_LISTVIEW_CLASSES |
+                                                              ICC_BAR_CLASSES | ICC_LINK_CLASS};
     ::InitCommonControlsEx(&classes);
     NativeWindow::RegisterWindowClass();
 }

@@ -1,5 +1,7 @@
 #include "toolkit/win32/event_loop.h"
 
+#include <iterator>
+
 #include "platform/shell.h"
 #include "toolkit/desktop.h"
 #include "toolkit/lists.h"
@@ -36,7 +38,22 @@ void ReportPointer(const MSG& message) {
     }
 }
 
+/// Whether a message is the wheel over a combo box without the focus, which would change its
+/// selection while the user scrolls something else.
+bool IsStrayWheel(const MSG& message) {
+    if (message.message != WM_MOUSEWHEEL) {
+        return false;
+    }
+    wchar_t name[16] = L"";
+    ::GetClassNameW(message.hwnd, name, static_cast<int>(std::size(name)));
+    const bool isCombo = ::lstrcmpiW(name, WC_COMBOBOXW) == 0;
+    return isCombo && message.hwnd != ::GetFocus() && !::IsChild(message.hwnd, ::GetFocus());
+}
+
 void Dispatch(MSG& message) {
+    if (IsStrayWheel(message)) {
+        return;
+    }
     const HWND window = message.hwnd != nullptr ? ::GetAncestor(message.hwnd, GA_ROOT) : nullptr;
     if (window == nullptr || !::IsDialogMessageW(window, &message)) {
         ::TranslateMessage(&message);

@@ -7,7 +7,6 @@ namespace {
 
 constexpr COLORREF OnBand = RGB(0xff, 0xff, 0xff);
 constexpr COLORREF OnBandSmall = RGB(0xf0, 0xd4, 0xc8);
-constexpr COLORREF LinkText = RGB(0x00, 0x5a, 0xb8);
 constexpr COLORREF QuietText = RGB(0x50, 0x4a, 0x46);  // 8 to 1 on the grey of a window
 
 Face FaceOf(const toolkit::Control& label) {
@@ -18,7 +17,6 @@ Face FaceOf(const toolkit::Control& label) {
         {toolkit::Title, Face::Title},
         {toolkit::Small, Face::Small},
         {toolkit::Bold, Face::Bold},
-        {toolkit::Link, Face::Link},
     };
     for (const auto& [flag, face] : faces) {
         if (label.Has(flag)) {
@@ -55,14 +53,13 @@ bool FitsItsText(const toolkit::Control& label) {
 class NativeLabel : public NativeControl {
   public:
     NativeLabel(NativeWindow& parent, toolkit::Label& label)
-        : NativeControl(parent, label, {WC_STATICW, StyleOf(label), 0, FaceOf(label)}),
-          label_(label) {}
+        : NativeLabel(parent, label, {WC_STATICW, StyleOf(label), 0, FaceOf(label)}) {}
 
     HBRUSH Colors(HDC context) override;
-    HCURSOR Pointer() const override;
 
   protected:
-    void OnCommand(WORD code) override;
+    NativeLabel(NativeWindow& parent, toolkit::Label& label, const NativeClass& nativeClass)
+        : NativeControl(parent, label, nativeClass), label_(label) {}
     void OnPropertyChanged(Property property, int row) override;
     RECT Place() const override;
 
@@ -99,22 +96,15 @@ RECT NativeLabel::Place() const {
 
 HBRUSH NativeLabel::Colors(HDC context) {
     if (IsOnBand()) {
-        ::SetTextColor(context, label_.Has(toolkit::Title) ? OnBand : OnBandSmall);
+        const COLORREF text = label_.Has(toolkit::Title) ? OnBand : OnBandSmall;
+        ::SetTextColor(context, IsHighContrast() ? ::GetSysColor(COLOR_WINDOWTEXT) : text);
         ::SetBkMode(context, TRANSPARENT);
         return Parent().TitleBand().BackgroundBrush(Handle(), context);
     }
-    if (label_.Has(toolkit::Link)) {
-        ::SetTextColor(context, LinkText);
-    } else if (label_.Has(toolkit::Quiet) && ::GetSysColor(COLOR_WINDOWTEXT) == 0) {
+    if (label_.Has(toolkit::Quiet) && ::GetSysColor(COLOR_WINDOWTEXT) == 0) {
         ::SetTextColor(context, QuietText);
     }
     return nullptr;
-}
-
-void NativeLabel::OnCommand(WORD code) {
-    if (code == STN_CLICKED) {
-        label_.UserClicks();
-    }
 }
 
 void NativeLabel::OnPropertyChanged(Property property, int row) {
@@ -124,13 +114,34 @@ void NativeLabel::OnPropertyChanged(Property property, int row) {
     }
 }
 
-HCURSOR NativeLabel::Pointer() const {
-    return label_.Has(toolkit::Link) ? ::LoadCursorW(nullptr, IDC_HAND) : nullptr;
-}
+/// SysLink: can be focused and pressed by the keyboard, and has the role of a link.
+class NativeLink : public NativeLabel {
+  public:
+    NativeLink(NativeWindow& parent, toolkit::Label& label)
+        : NativeLabel(parent, label, {WC_LINK, 0, 0, Face::Body}), label_(label) {}
+
+  protected:
+    LRESULT OnNotify(const NMHDR& notice) override {
+        if (notice.code == static_cast<UINT>(NM_CLICK) ||
+            notice.code == static_cast<UINT>(NM_RETURN)) {
+            label_.UserClicks();
+        }
+        return 0;
+    }
+    std::wstring CaptionText() const override {
+        return L"<a>" + NativeLabel::CaptionText() + L"</a>";
+    }
+
+  private:
+    toolkit::Label& label_;
+};
 
 }  // namespace
 
 std::unique_ptr<NativeControl> MakeLabel(NativeWindow& parent, toolkit::Label& label) {
+    if (label.Has(toolkit::Link)) {
+        return std::make_unique<NativeLink>(parent, label);
+    }
     return std::make_unique<NativeLabel>(parent, label);
 }
 

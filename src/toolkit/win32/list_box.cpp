@@ -1,5 +1,6 @@
 // LISTBOX: a list with one selected row.
 #include "toolkit/win32/controls.h"
+#include "toolkit/win32/native_window.h"
 
 namespace desktop {
 namespace {
@@ -19,6 +20,7 @@ class NativeListBox : public NativeControl {
     void OnPropertyChanged(Property property, int row) override;
     void OnCreated() override;
     void OnLayout() override;
+    void OnMenuKey() override;
 
   private:
     void IncludeWidthOf(int row);
@@ -74,6 +76,16 @@ void NativeListBox::IncludeWidthOf(int row) {
     if (width + Margin > widest_) {
         widest_ = width + Margin;
         Send(LB_SETHORIZONTALEXTENT, static_cast<WPARAM>(widest_));
+    }
+}
+
+void NativeListBox::OnMenuKey() {
+    RECT row = {};
+    if (list_.ListIndex() >= 0 && Send(LB_GETITEMRECT, static_cast<WPARAM>(list_.ListIndex()),
+                                       reinterpret_cast<LPARAM>(&row)) != LB_ERR) {
+        const POINT point = {row.left + GetMetrics().RowHeight(), row.bottom - 1};
+        Parent().SetMenuPosition(Handle(), point);
+        list_.UserReleasesButton(toolkit::MouseButton::Right, point.x, point.y);
     }
 }
 

@@ -49,9 +49,15 @@ void NativeListView::MakeColumns() {
 }
 
 void NativeListView::OnLayout() {
-    RECT inside = {};
-    ::GetClientRect(Handle(), &inside);
-    const int width = inside.right - ::GetSystemMetrics(SM_CXVSCROLL);
+    // The rows are as high as their icons. The list view destroys the image list.
+    Send(
+        LVM_SETIMAGELIST, LVSIL_SMALL,
+        reinterpret_cast<LPARAM>(::ImageList_Create(1, GetMetrics().RowHeight(), ILC_COLOR, 1, 0)));
+    // The same with and without a scroll bar, so that columns of two lists are aligned.
+    const RECT place = Place();
+    const int borders = 2 * ::GetSystemMetrics(SM_CXEDGE);
+    const int width =
+        static_cast<int>(place.right - place.left) - borders - ::GetSystemMetrics(SM_CXVSCROLL);
     const int first = width * 2 / 5;
     Send(LVM_SETCOLUMNWIDTH, 0, first);
     Send(LVM_SETCOLUMNWIDTH, 1, width - first);

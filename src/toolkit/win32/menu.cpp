@@ -7,7 +7,7 @@
 namespace desktop {
 
 void ShowPopupMenu(toolkit::Window& window, toolkit::PopupMenu& menu) {
-    const NativeWindow* native = FindNative(window);
+    NativeWindow* native = FindNative(window);
     if (native == nullptr) {
         return;
     }
@@ -17,10 +17,9 @@ void ShowPopupMenu(toolkit::Window& window, toolkit::PopupMenu& menu) {
         ::AppendMenuW(popup.get(), items[i]->Enabled() ? MF_STRING : MF_STRING | MF_GRAYED, i + 1,
                       EscapeAmpersands(items[i]->Caption()).c_str());
     }
-    POINT pointer = {};
-    ::GetCursorPos(&pointer);
+    const POINT place = native->TakeMenuPosition();
     const int chosen = ::TrackPopupMenu(popup.get(), TPM_RETURNCMD | TPM_NONOTIFY | TPM_RIGHTBUTTON,
-                                        pointer.x, pointer.y, 0, native->Handle(), nullptr);
+                                        place.x, place.y, 0, native->Handle(), nullptr);
     if (chosen > 0) {
         items[static_cast<std::size_t>(chosen) - 1]->UserClicks();
     }

@@ -5,13 +5,12 @@
 namespace desktop {
 namespace {
 
-OwnedFont MakeFont(LOGFONTW description, int percent, bool bold, bool underlined) {
+OwnedFont MakeFont(LOGFONTW description, int percent, bool bold) {
     constexpr int Whole = 100;
     description.lfHeight = ::MulDiv(description.lfHeight, percent, Whole);
     if (bold) {
         description.lfWeight = FW_BOLD;
     }
-    description.lfUnderline = underlined;
     return OwnedFont(::CreateFontIndirectW(&description));
 }
 
@@ -31,30 +30,37 @@ int DpiOf(HWND window) {
     return dpi > 0 ? dpi : SystemDpi();
 }
 
-Metrics::Metrics(int dpi) : dpi_(dpi) {
-    MakeFonts();
+bool IsHighContrast() {
+    HIGHCONTRASTW setting = {};
+    setting.cbSize = sizeof setting;
+    return ::SystemParametersInfoW(SPI_GETHIGHCONTRAST, sizeof setting, &setting, 0) &&
+           (setting.dwFlags & HCF_HIGHCONTRASTON) != 0;
+}
+
+Metrics::Metrics(int dpi, int percent) : dpi_(dpi) {
+    MakeFonts(percent);
     Measure();
 }
 
-void Metrics::MakeFonts() {
+void Metrics::MakeFonts(int percent) {
     NONCLIENTMETRICSW system = {};
     system.cbSize = sizeof system;
     ::SystemParametersInfoW(SPI_GETNONCLIENTMETRICS, system.cbSize, &system, 0);
     LOGFONTW body = system.lfMessageFont;
     body.lfHeight = ::MulDiv(body.lfHeight, dpi_, SystemDpi());
-    const struct {
+    constexpr struct {
         Face face;
         int percent;
         bool bold;
-        bool underlined;
-    } rows[] = {
-        {Face::Body, 100, false, false}, {Face::Bold, 100, true, false},
-        {Face::Title, 220, true, false}, {Face::Small, 92, false, false},
-        {Face::Link, 100, false, true},
+    } Variants[] = {
+        {Face::Body, 100, false},
+        {Face::Bold, 100, true},
+        {Face::Title, 220, true},
+        {Face::Small, 92, false},
     };
-    for (const auto& row : rows) {
-        fonts_[static_cast<std::size_t>(row.face)] =
-            MakeFont(body, row.percent, row.bold, row.underlined);
+    for (const auto& variant : Variants) {
+        fonts_[static_cast<std::size_t>(variant.face)] =
+            MakeFont(body, variant.percent * percent / 100, variant.bold);
     }
 }
 

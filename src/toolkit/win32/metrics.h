@@ -10,17 +10,21 @@
 namespace desktop {
 
 /// Variants of the system's message font.
-enum class Face { Body, Bold, Title, Small, Link };
+enum class Face { Body, Bold, Title, Small };
 
 /// Dots per inch of the primary monitor.
 int SystemDpi();
 /// Dots per inch of the monitor of a window; on a Windows before 10, of the primary monitor.
 int DpiOf(HWND window);
 
+/// Whether the user asked for high contrast: then the system's colors replace the program's.
+bool IsHighContrast();
+
 /// Everything that depends on the resolution.
 class Metrics {
   public:
-    explicit Metrics(int dpi);
+    /// With a font of `percent` of the size that the system has for this resolution.
+    explicit Metrics(int dpi, int percent = 100);
 
     int Dpi() const { return dpi_; }
     HFONT Font(Face face) const { return fonts_[static_cast<std::size_t>(face)].get(); }
@@ -30,15 +34,17 @@ class Metrics {
     int TextWidth(Face face, const std::string& text) const;
     /// Height of a field with one line of text, including its border.
     int FieldHeight() const { return characterHeight_ + Scaled(8); }
+    /// Height of a row in a list view.
+    int RowHeight() const { return characterHeight_ + Scaled(4); }
     /// Converts pixels at 96 dots per inch to pixels at this resolution.
     int Scaled(int pixels) const { return ::MulDiv(pixels, dpi_, 96); }
 
   private:
-    void MakeFonts();
+    void MakeFonts(int percent);
     void Measure();
 
     int dpi_;
-    std::array<OwnedFont, 5> fonts_;
+    std::array<OwnedFont, 4> fonts_;
     // The average width is four dialog units, the height eight.
     int characterWidth_ = 0;
     int characterHeight_ = 0;

@@ -49,8 +49,10 @@ class NativeControl {
     virtual HBRUSH Colors(HDC context);
     /// Draws an owner-drawn control.
     virtual void DrawItem(const DRAWITEMSTRUCT& item);
-    /// The mouse pointer over this control; null for the arrow.
-    virtual HCURSOR Pointer() const { return nullptr; }
+    /// Called when the user asks for the context menu by the keyboard.
+    virtual void OnMenuKey() {}
+    /// Draws or removes the ring of the default button.
+    virtual void ShowDefault(bool /*isDefault*/) {}
     /// Whether the Enter key presses this control while it has the focus.
     virtual bool IsPushButton() const { return false; }
 

@@ -1,8 +1,12 @@
 #include "toolkit/win32/native_window.h"
 
+#include <algorithm>
+#include <utility>
+
 #include "platform/win32/text.h"
 #include "toolkit/win32/control_ids.h"
 #include "toolkit/win32/controls.h"
+#include "toolkit/win32/native_windows.h"
 #include "toolkit/win32/pictures.h"
 
 namespace desktop {
@@ -12,12 +16,27 @@ RECT ClientArea(const toolkit::Window& window, const Metrics& metrics) {
     return metrics.Pixels({0, 0, window.Spec().width, window.Spec().height});
 }
 
-HWND Create(const toolkit::Window& window, const Metrics& metrics) {
-    const DWORD style = window.Spec().dialog ? WS_POPUP | WS_CAPTION | WS_SYSMENU
-                                             : WS_CAPTION | WS_SYSMENU | WS_MINIMIZEBOX;
-    const DWORD extended = WS_EX_CONTROLPARENT | (window.Spec().dialog ? WS_EX_DLGMODALFRAME : 0);
-    RECT frame = ClientArea(window, metrics);
-    ::AdjustWindowRectEx(&frame, style, FALSE, extended);
+struct Styles {
+    DWORD style;
+    DWORD extended;
+};
+
+Styles StylesOf(const toolkit::Window& window) {
+    if (window.Spec().dialog) {
+        return {WS_POPUP | WS_CAPTION | WS_SYSMENU, WS_EX_CONTROLPARENT | WS_EX_DLGMODALFRAME};
+    }
+    return {WS_CAPTION | WS_SYSMENU | WS_MINIMIZEBOX, WS_EX_CONTROLPARENT};
+}
+
+RECT WorkArea(HWND window) {
+    MONITORINFO monitor = {};
+    monitor.cbSize = sizeof monitor;
+    ::GetMonitorInfoW(::MonitorFromWindow(window, MONITOR_DEFAULTTOPRIMARY), &monitor);
+    return monitor.rcWork;
+}
+
+HWND Create(const toolkit::Window& window, const RECT& frame) {
+    const auto [style, extended] = StylesOf(window);
     return ::CreateWindowExW(extended, WindowClassName, platform::Wide(window.Caption()).c_str(),
                              style, CW_USEDEFAULT, CW_USEDEFAULT, frame.right - frame.left,
                              frame.bottom - frame.top, nullptr, nullptr,
@@ -47,9 +66,11 @@ void NativeWindow::RegisterWindowClass() {
 }
 
 NativeWindow::NativeWindow(toolkit::Window& window)
-    : window_(window), metrics_(SystemDpi()), handle_(Create(window, metrics_)) {
+    : window_(window),
+      metrics_(FittingMetrics(window, SystemDpi())),
+      handle_(Create(window, FrameOf(window, metrics_))) {
     if (const int dpi = DpiOf(handle_); dpi != metrics_.Dpi()) {
-        metrics_ = Metrics(dpi);
+        metrics_ = FittingMetrics(window, dpi);
     }
     UpdateSize();
     MakeControls();
@@ -62,11 +83,42 @@ NativeWindow::~NativeWindow() {
     ::DestroyWindow(handle_);
 }
 
+RECT NativeWindow::FrameOf(const toolkit::Window& window, const Metrics& metrics) {
+    const auto [style, extended] = StylesOf(window);
+    RECT frame = ClientArea(window, metrics);
+    ::AdjustWindowRectEx(&frame, style, FALSE, extended);
+    return frame;
+}
+
+Metrics NativeWindow::FittingMetrics(const toolkit::Window& window, int dpi) {
+    constexpr int Smallest = 50;
+    constexpr int Step = 5;
+    const RECT work = WorkArea(FrontWindow());
+    for (int percent = 100;; percent -= Step) {
+        Metrics metrics(dpi, percent);
+        const RECT frame = FrameOf(window, metrics);
+        const bool fits = frame.right - frame.left <= work.right - work.left &&
+                          frame.bottom - frame.top <= work.bottom - work.top;
+        if (fits || percent <= Smallest) {
+            return metrics;
+        }
+    }
+}
+
 void NativeWindow::MakeControls() {
     for (toolkit::Control* control : InStackingOrder(window_)) {
         controls_.push_back(MakeControl(*this, *control));
         controls_.back()->Create();
     }
+    default_ = FindWithFlag(toolkit::Default);
+}
+
+void NativeWindow::Layout() {
+    UpdateSize();
+    for (const auto& control : controls_) {
+        control->Layout();
+    }
+    ::InvalidateRect(handle_, nullptr, TRUE);
 }
 
 void NativeWindow::UpdateSize() {
@@ -116,16 +168,38 @@ void NativeWindow::CaptionChanged() const {
 
 void NativeWindow::Centre() const {
     const HWND owner = ::GetWindow(handle_, GW_OWNER);
-    MONITORINFO screen = {};
-    screen.cbSize = sizeof screen;
-    ::GetMonitorInfoW(
-        ::MonitorFromWindow(owner != nullptr ? owner : handle_, MONITOR_DEFAULTTOPRIMARY), &screen);
+    const RECT work = WorkArea(owner != nullptr ? owner : handle_);
     RECT frame = {};
     ::GetWindowRect(handle_, &frame);
-    const RECT& work = screen.rcWork;
-    ::SetWindowPos(handle_, nullptr, (work.left + work.right - frame.right + frame.left) / 2,
-                   (work.top + work.bottom - frame.bottom + frame.top) / 2, 0, 0,
+    const LONG x = (work.left + work.right - frame.right + frame.left) / 2;
+    const LONG y = (work.top + work.bottom - frame.bottom + frame.top) / 2;
+    ::SetWindowPos(handle_, nullptr, std::max(x, work.left), std::max(y, work.top), 0, 0,
                    SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+void NativeWindow::ShowDefault(NativeControl* focused) {
+    NativeControl* button = focused != nullptr ? focused : FindWithFlag(toolkit::Default);
+    if (button == default_) {
+        return;
+    }
+    if (default_ != nullptr) {
+        default_->ShowDefault(false);
+    }
+    if (button != nullptr) {
+        button->ShowDefault(true);
+    }
+    default_ = button;
+}
+
+void NativeWindow::SetMenuPosition(HWND control, POINT point) {
+    ::ClientToScreen(control, &point);
+    menuPosition_ = point;
+}
+
+POINT NativeWindow::TakeMenuPosition() {
+    POINT point = {};
+    ::GetCursorPos(&point);
+    return std::exchange(menuPosition_, std::nullopt).value_or(point);
 }
 
 void NativeWindow::Focus(HWND control) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <vector>
 
 #include "toolkit/win32/band.h"
@@ -42,9 +43,19 @@ class NativeWindow {
     /// Next time the window becomes active, the first control in the tab order gets the focus.
     void ResetFocus() { focus_ = nullptr; }
 
+    /// Sets where the next menu opens, as a point of a control, instead of at the mouse pointer.
+    void SetMenuPosition(HWND control, POINT point);
+    /// Returns the place of the menu that opens now, on the screen.
+    POINT TakeMenuPosition();
+
   private:
     struct Route;  // a message and its handler
     static const Route Routes[];
+
+    /// The metrics at a resolution, with a smaller font if the window would not fit on its monitor.
+    static Metrics FittingMetrics(const toolkit::Window& window, int dpi);
+    /// The window's size with its frame.
+    static RECT FrameOf(const toolkit::Window& window, const Metrics& metrics);
 
     static LRESULT CALLBACK Procedure(HWND handle, UINT message, WPARAM wParam, LPARAM lParam);
     LRESULT HandleMessage(UINT message, WPARAM wParam, LPARAM lParam);
@@ -59,13 +70,17 @@ class NativeWindow {
     LRESULT OnActivate(WPARAM wParam, LPARAM lParam);
     LRESULT OnSetFocus(WPARAM wParam, LPARAM lParam);
     LRESULT OnDefaultButton(WPARAM wParam, LPARAM lParam);
-    LRESULT OnSetCursor(WPARAM wParam, LPARAM lParam);
     LRESULT OnPointer(WPARAM wParam, LPARAM lParam);
+    LRESULT OnContextMenu(WPARAM wParam, LPARAM lParam);
+    LRESULT OnColorChange(WPARAM wParam, LPARAM lParam);
+    LRESULT OnSettingChange(WPARAM wParam, LPARAM lParam);
     LRESULT OnDpiChanged(WPARAM wParam, LPARAM lParam);
 
     void MakeControls();
     void UpdateSize();
     void RestoreFocus();
+    void Layout();
+    void ShowDefault(NativeControl* focused);
     void PressCancel();
     NativeControl* FindWithFlag(toolkit::Flag flag) const;
 
@@ -75,6 +90,8 @@ class NativeWindow {
     ToolTips tips_{handle_};
     Band band_;
     std::vector<std::unique_ptr<NativeControl>> controls_;
+    NativeControl* default_ = nullptr;  // the button with the ring
+    std::optional<POINT> menuPosition_;
     HWND focus_ = nullptr;  // gets the focus when the window becomes active
 };
 

@@ -18,8 +18,10 @@ const NativeWindow::Route NativeWindow::Routes[] = {
     {WM_ACTIVATE, &NativeWindow::OnActivate},
     {WM_SETFOCUS, &NativeWindow::OnSetFocus},
     {DM_GETDEFID, &NativeWindow::OnDefaultButton},
-    {WM_SETCURSOR, &NativeWindow::OnSetCursor},
     {WM_MOUSEMOVE, &NativeWindow::OnPointer},
+    {WM_CONTEXTMENU, &NativeWindow::OnContextMenu},
+    {WM_SYSCOLORCHANGE, &NativeWindow::OnColorChange},
+    {WM_SETTINGCHANGE, &NativeWindow::OnSettingChange},
     {WM_DPICHANGED, &NativeWindow::OnDpiChanged},
 };
 
@@ -45,7 +47,13 @@ LRESULT NativeWindow::DefaultHandler(UINT message, WPARAM wParam, LPARAM lParam)
 
 LRESULT NativeWindow::OnCommand(WPARAM wParam, LPARAM lParam) {
     if (NativeControl* control = FromHandle(reinterpret_cast<HWND>(lParam))) {
-        control->Command(HIWORD(wParam));
+        if (control->IsPushButton() && HIWORD(wParam) == BN_SETFOCUS) {
+            ShowDefault(control);
+        } else if (control->IsPushButton() && HIWORD(wParam) == BN_KILLFOCUS) {
+            ShowDefault(nullptr);
+        } else {
+            control->Command(HIWORD(wParam));
+        }
     } else if (LOWORD(wParam) == IDCANCEL) {
         PressCancel();  // the Escape key
     }
@@ -119,16 +127,6 @@ LRESULT NativeWindow::OnDefaultButton(WPARAM /*wParam*/, LPARAM /*lParam*/) {
     return button != nullptr ? MAKELRESULT(::GetDlgCtrlID(button->Handle()), DC_HASDEFID) : 0;
 }
 
-LRESULT NativeWindow::OnSetCursor(WPARAM wParam, LPARAM lParam) {
-    const NativeControl* control = FromHandle(reinterpret_cast<HWND>(wParam));
-    const HCURSOR pointer = control != nullptr ? control->Pointer() : nullptr;
-    if (pointer == nullptr) {
-        return DefaultHandler(WM_SETCURSOR, wParam, lParam);
-    }
-    ::SetCursor(pointer);
-    return TRUE;
-}
-
 LRESULT NativeWindow::OnPointer(WPARAM wParam, LPARAM lParam) {
     const POINT point = {static_cast<short>(LOWORD(lParam)), static_cast<short>(HIWORD(lParam))};
     const HWND child = ::ChildWindowFromPointEx(handle_, point, CWP_SKIPINVISIBLE);
@@ -143,16 +141,41 @@ LRESULT NativeWindow::OnPointer(WPARAM wParam, LPARAM lParam) {
     return DefaultHandler(WM_MOUSEMOVE, wParam, lParam);
 }
 
+LRESULT NativeWindow::OnContextMenu(WPARAM wParam, LPARAM lParam) {
+    constexpr LPARAM ByKeyboard = -1;
+    if (NativeControl* control = FromHandle(reinterpret_cast<HWND>(wParam));
+        control != nullptr && lParam == ByKeyboard) {
+        control->OnMenuKey();
+    }
+    return 0;
+}
+
+LRESULT NativeWindow::OnColorChange(WPARAM /*wParam*/, LPARAM /*lParam*/) {
+    // Windows sends it to top-level windows only.
+    for (const auto& control : controls_) {
+        ::SendMessageW(control->Handle(), WM_SYSCOLORCHANGE, 0, 0);
+    }
+    ::RedrawWindow(handle_, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
+    return 0;
+}
+
+LRESULT NativeWindow::OnSettingChange(WPARAM wParam, LPARAM /*lParam*/) {
+    if (wParam == SPI_SETNONCLIENTMETRICS) {  // the fonts
+        metrics_ = FittingMetrics(window_, metrics_.Dpi());
+        Layout();
+    } else if (wParam == SPI_SETHIGHCONTRAST) {
+        OnColorChange(0, 0);
+    }
+    return 0;
+}
+
 LRESULT NativeWindow::OnDpiChanged(WPARAM wParam, LPARAM lParam) {
     const auto& place = *reinterpret_cast<const RECT*>(lParam);
-    metrics_ = Metrics(HIWORD(wParam));
-    ::SetWindowPos(handle_, nullptr, place.left, place.top, 0, 0,
-                   SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
-    UpdateSize();
-    for (const auto& control : controls_) {
-        control->Layout();
-    }
-    ::InvalidateRect(handle_, nullptr, TRUE);
+    metrics_ = FittingMetrics(window_, HIWORD(wParam));
+    const RECT frame = FrameOf(window_, metrics_);
+    ::SetWindowPos(handle_, nullptr, place.left, place.top, frame.right - frame.left,
+                   frame.bottom - frame.top, SWP_NOZORDER | SWP_NOACTIVATE);
+    Layout();
     return 0;
 }
 

@@ -1,6 +1,7 @@
 #include "toolkit/win32/tool_tip.h"
 
 #include "platform/win32/text.h"
+#include "toolkit/win32/metrics.h"
 
 namespace desktop {
 
@@ -9,6 +10,9 @@ void ToolTips::Make() {
                                 WS_POPUP | TTS_NOPREFIX | TTS_ALWAYSTIP, CW_USEDEFAULT,
                                 CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, owner_, nullptr,
                                 ::GetModuleHandleW(nullptr), nullptr);
+    // Only tooltips with a maximum width break lines.
+    constexpr int Inches = 4;
+    ::SendMessageW(handle_, TTM_SETMAXTIPWIDTH, 0, Inches * DpiOf(owner_));
 }
 
 void ToolTips::Set(HWND control, const std::string& text) {
