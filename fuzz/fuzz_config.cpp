@@ -1,4 +1,4 @@
-// Any text gives a tree; its written form gives that tree again.
+// Any text is read as a tree, and its written form as the same tree again.
 #include <algorithm>
 
 #include "config/reader.h"

@@ -1,7 +1,7 @@
 // measure_startup ROUNDS LIMITS PROGRAM BARE...: starts the commands in turn on an X display
 // without a window manager and prints the medians of each, and PROGRAM's ratios to each BARE.
 // LIMITS are the largest ratios to the first BARE, in the order of the table, separated by commas;
-// exceeding one is a failure. "@size" in a command stands for the width and height of PROGRAM's
+// exceeding one is a failure. "@size" in a command is replaced by the width and height of PROGRAM's
 // window.
 //
 // measure_startup once COMMAND: starts the command, ends it by SIGUSR1 once its window is drawn,

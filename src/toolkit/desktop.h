@@ -51,7 +51,7 @@ void UnloadWindow(toolkit::Window& window);
 void ShowWindow(toolkit::Window& window);
 void HideWindow(toolkit::Window& window);
 /// Shows a window over the active one, which takes no input meanwhile. Handles events until
-/// window.Visible() is false, then gives the focus back to the window that was active.
+/// window.Visible() is false, then returns the focus to the window that was active.
 void RunModal(toolkit::Window& window);
 /// Draws the whole window immediately.
 void RepaintWindow(toolkit::Window& window);

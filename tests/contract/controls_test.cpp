@@ -8,8 +8,8 @@
 
 namespace {
 
-/// What the screen shows of a control: its text, or its rows with a blank between. What is selected
-/// or checked stands in brackets.
+/// What the screen shows of a control: its text, or its rows separated by spaces. What is selected
+/// or checked is in brackets.
 std::string Shown(const toolkit::Control& control) {
     const driver::Look look = driver::LookAt(control);
     std::string rows;
@@ -250,7 +250,8 @@ TEST_F(Controls, PointerOverTheBareWindowAndNothingElse) {
     driver::PointAt(form.cmdYes);
     EXPECT_EQ(seen, "yes");
     driver::PointAt(form.cmbFixed);
-    EXPECT_EQ(seen, "yes") << "a control without a handler tells nothing, nor does the window";
+    EXPECT_EQ(seen, "yes")
+        << "neither the control without a handler nor the window raises an event";
     driver::PointAt(form);
     EXPECT_EQ(seen, "window");
 }

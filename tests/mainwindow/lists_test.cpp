@@ -18,7 +18,7 @@ struct Lists : Session {
                       Stored("few.wad") + "\"; c = \"|no such file\"; }");
         EXPECT_TRUE(Start());
     }
-    /// Adds what the file dialog gives, once for each.
+    /// Adds each of these results of the file dialog.
     static void Add(const Texts& chosen) {
         for (const std::string& choice : chosen) {
             memory::machine.files = {choice};

@@ -56,7 +56,7 @@ struct ProcessEnded {};  // thrown where the process would end
 /// A fresh machine; fails the test when the old one has messages, answers or steps left over.
 void Reset();
 
-/// The next of the queued answers; fails the test, and gives `otherwise`, when there is none.
+/// The next of the queued answers; fails the test, and returns `otherwise`, if there is none.
 template <class Answer>
 Answer Take(std::deque<Answer>& queue, const std::string& question, Answer otherwise = {}) {
     if (queue.empty()) {

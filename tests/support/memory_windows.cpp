@@ -16,7 +16,7 @@ Kind* As(const toolkit::Control& control) {
     return dynamic_cast<Kind*>(const_cast<toolkit::Control*>(&control));
 }
 
-/// The control behind `tab` in the tab order, or the first one.
+/// The control after `tab` in the tab order, or the first one.
 toolkit::Control* NextInTabOrder(const toolkit::Window& window, int tab) {
     toolkit::Control* next = nullptr;
     for (toolkit::Control* control : window.Controls()) {

@@ -23,17 +23,17 @@ class Session : public testing::Test {
 
     /// Adds a definition file for an engine of that name, with `switches` numbered from 1.
     void DefineEngine(const std::string& name, int switches = 3);
-    /// The path of a thing in the folder, as it stands between the quotes of a settings file.
+    /// The path of a file in the folder, as it is written in a settings file.
     std::string Stored(std::string_view name) const;
-    /// Writes a settings file of the right type with the given lines behind the type.
+    /// Writes a settings file of the right type with the given lines after the type.
     void WriteSettings(std::string_view lines);
     std::string SettingsBytes() const { return folder.Read("zorvane.cfg"); }
 
-    /// Starts the program; gives whether it came up, false when it stopped by itself.
+    /// Starts the program; returns false if it ended by itself.
     bool Start();
     /// Ends it by the button Exit; anything that ends the process does as well.
     void Exit();
-    /// Runs steps that are to end the process; gives whether they did.
+    /// Runs steps that should end the process; returns whether they did.
     static bool Ends(const std::function<void()>& steps);
 
     TempFolder folder;

@@ -36,7 +36,7 @@ class TempFolder {
         return path;
     }
 
-    /// Writes a file, and the folders that it stands in; gives its Path.
+    /// Writes a file and creates its folders; returns its Path.
     std::string Write(std::string_view name, std::string_view bytes) const {
         std::filesystem::create_directories(Native(name).parent_path());
         std::ofstream(Native(name), std::ios::binary) << bytes;

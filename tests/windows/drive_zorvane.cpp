@@ -186,7 +186,7 @@ void SecondRun() {
           "a box is back");
     Press(Find(frmMain.cmdRun));
     Write("line.txt", ExpectedLine());
-    CheckReceived(ExpectedLine(), "Run gives the same command line");
+    CheckReceived(ExpectedLine(), "Run passes the same command line");
     PostMessageW(Find("Zorvane"), WM_SYSCOMMAND, SC_CLOSE, 0);
     Check(ExitCode(zorvane) == 0, "closing the window ends the program");
     CheckEqual(Read("zorvane.cfg"), settings, "the settings are the same bytes");

@@ -20,7 +20,7 @@ void WaitUntil(const std::function<bool()>& isSo, const std::string& what);
 
 /// Starts a program and returns its process handle.
 HANDLE Start(const std::string& file, const std::string& arguments = {});
-/// Waits for the end of a process and gives its exit code.
+/// Waits for a process to end and returns its exit code.
 DWORD ExitCode(HANDLE process);
 
 /// The window of that caption, one of Zorvane's own or of another class, once it shows and takes
@@ -37,7 +37,7 @@ void Type(HWND field, const std::string& text);
 void ChooseRow(HWND list, int row);
 std::string TextOf(HWND control);
 
-/// Works the next file dialog of that title: gives the name and OK, or Cancel for an empty name.
+/// Answers the next file dialog of that title with a name and OK, or with Cancel for an empty name.
 void AnswerFileDialog(const std::string& title, const std::string& name);
 /// Works the next folder chooser.
 void AnswerFolderDialog(const std::string& folder);
