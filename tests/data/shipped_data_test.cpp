@@ -38,16 +38,16 @@ Pairs Texts(const ConfigMapRef& map) {
     return map ? Texts(OutputBlock(*map, 0, "\n", true)) : Pairs();
 }
 
-bool Matches(const std::string& text, const char* pattern) {
-    return std::regex_match(text, std::regex(pattern));
-}
-
 ConfigMapRef Document(const fs::path& file) {
     const std::string text = Bytes(file);
     std::size_t position = 0;
     ConfigMapRef document = ParseBlock(position, text);
     EXPECT_EQ(Texts(document), Texts(text)) << "the reader finds what is written";
     return document;
+}
+
+void ExpectMatch(const std::string& text, const char* pattern) {
+    EXPECT_TRUE(std::regex_match(text, std::regex(pattern))) << '"' << text << "\" " << pattern;
 }
 
 }  // namespace
@@ -59,9 +59,9 @@ TEST(ShippedData, DefinesEnginesWithSwitchesThatTheInstalledOnesKnow) {
         const ConfigMapRef definition = Document(file);
         const auto setting = [&](const char* key) { return definition->Item(key).AsText(); };
         EXPECT_EQ(setting("type"), "Zorvane engine file");
-        EXPECT_TRUE(Matches(setting("executable"), ".+\\.exe"));
-        EXPECT_TRUE(Matches(setting("demoext"), "[a-z0-9]+"));
-        EXPECT_NE(setting("realname"), "");
+        ExpectMatch(setting("executable"), ".+\\.exe");
+        ExpectMatch(setting("demoext"), "[a-z0-9]+");
+        ExpectMatch(setting("realname"), "[^\t{}=;/]+");
         EXPECT_TRUE(seen.insert(setting("realname")).second) << "a duplicate";
         EXPECT_TRUE(seen.insert(setting("executable")).second) << "a duplicate";
 
@@ -70,7 +70,8 @@ TEST(ShippedData, DefinesEnginesWithSwitchesThatTheInstalledOnesKnow) {
         const Pairs switches = Texts(definition->Item("parameters").AsMap());
         EXPECT_TRUE(!switches.empty() && switches.size() <= 16U) << switches.size();
         for (const auto& [key, caption] : switches) {
-            EXPECT_TRUE(Matches(key, "[-_a-z0-9]+") && Matches(caption, ".{1,34}")) << key;
+            ExpectMatch(key, "[-_a-z0-9]+");
+            ExpectMatch(caption, ".{1,34}");
             // The distribution's release is older than this switch.
             const bool isNewer = name == "crispy-doom" && key == "coop_spawns";
             const bool isKnown = program.find("-" + key + '\0') != std::string::npos;
@@ -79,7 +80,8 @@ TEST(ShippedData, DefinesEnginesWithSwitchesThatTheInstalledOnesKnow) {
         const Pairs types = Texts(definition->Item("filetypes").AsMap());
         EXPECT_NE(types, Pairs());
         for (const auto& [extension, description] : types) {
-            EXPECT_TRUE(Matches(extension, "[a-z0-9]+") && !description.empty()) << extension;
+            ExpectMatch(extension, "[a-z0-9]+");
+            EXPECT_NE(description, "");
         }
     }
     EXPECT_FALSE(seen.empty());
@@ -89,8 +91,7 @@ TEST(ShippedData, NamesGamesByFileNameInLowerCase) {
     const Pairs table = Texts(Document(Shipped / "autodetect.cfg"));
     EXPECT_GE(table.size(), 56U);
     for (const auto& [file, name] : table) {
-        EXPECT_TRUE(Matches(file, R"([._a-z0-9]+\.wad)")) << file;
-        EXPECT_TRUE(Matches(name, "[^|]+"))
-            << name;  // a bar separates name and file in the settings
+        ExpectMatch(file, R"([._a-z0-9]+\.wad)");
+        ExpectMatch(name, "[^|]+");  // a bar separates name and file in the settings
     }
 }

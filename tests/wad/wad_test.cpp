@@ -29,32 +29,30 @@ struct Wad : testing::Test {
         EXPECT_EQ(wad.WadLumps(), "-1");
         EXPECT_EQ(wad.WadType(), 1);
         EXPECT_EQ(wad.SeekLump(0), -1);
-        EXPECT_EQ(wad.ReadLumpString(0), "");
     }
     TempFolder folder;
     clsWad wad;
 };
 
 TEST_F(Wad, ReadsOrRefusesHeaders) {
-    const std::string none = "-1";
-    const std::tuple<const char*, std::string, std::string> rows[] = {
-        {"no WAD", "some text", none},
-        {"tag in lower case", Header("iwad", 1, 12), none},
-        {"half a count", "PWAD\2"s, "1"},
-        {"unfinished", Header("PWAD", -1, 12), "-2"},
-        {"count -2", Header("IWAD", -2, 12), none},
-        {"more than 64 MiB", Header("IWAD", (1 << 22) + 1, 12), none},
-        {"64 MiB, all cut off", Header("IWAD", 1 << 22, 12), "4194303"},
-        {"directory before the file", Header("IWAD", 3, -40), "2"},
-        {"directory after the file", Header("IWAD", 3, INT_MAX), "2"},
+    const std::pair<std::string, std::string> rows[] = {
+        {"some text", "-1"},
+        {Header("iwad", 1, 12), "-1"},
+        {"PWAD\2"s, "1"},
+        {Header("PWAD", -1, 12), "-2"},
+        {Header("IWAD", -2, 12), "-1"},
+        {Header("IWAD", (1 << 22) + 1, 12), "-1"},  // a directory above 64 MiB
+        {Header("IWAD", 1 << 22, 12), "4194303"},
+        {Header("IWAD", 3, -40), "2"},
+        {Header("IWAD", 3, INT_MAX), "2"},
     };
-    for (const auto& [name, bytes, lumps] : rows) {
-        SCOPED_TRACE(name);
+    for (const auto& [bytes, lumps] : rows) {
+        SCOPED_TRACE(bytes);
         Open(WadOf({"OLD"}));
         Open(bytes);
         EXPECT_EQ(wad.WadLumps(), lumps);
-        EXPECT_EQ(wad.NumForName("THINGS"), -1);
-        if (lumps == none) {
+        EXPECT_EQ(wad.NumForName("OLD"), -1);
+        if (lumps == "-1") {
             ExpectNoFile();
         }
     }
@@ -66,15 +64,12 @@ TEST_F(Wad, CleansNames) {
         {"AB\0CD"s, "AB CD"},       {" LEFT", "LEFT"},        {"\0\0A B \0"s, "A B"},
         {"\t\xFFX\t", "\t\xFFX\t"}, {"        ", ""}};
     for (const auto& [field, name] : rows) {
-        Open(WadOf({"FIRST", field, field}));
+        Open(WadOf({"map01", field, field}));
         EXPECT_EQ(wad.LumpName(1), name);
         EXPECT_EQ(wad.NumForName(" " + LowerCase(name) + " "), 1) << name;
-        EXPECT_EQ(wad.NumForName(name + "x"), -1) << name;
+        EXPECT_EQ(wad.NumForName("\t" + name), -1) << name;
         EXPECT_EQ(wad.NumForName(name + '\0'), -1) << name << " followed by a NUL";
     }
-    Open(WadOf({"map01", "EIGHTCHR"}));
-    EXPECT_EQ(wad.NumForName("MAP01"), -1);
-    EXPECT_EQ(wad.NumForName("\tEIGHTCHR"), -1);
 }
 
 TEST_F(Wad, CountsEntriesThatTheFileCutsOff) {
@@ -121,19 +116,17 @@ Names Lumps(const std::map<std::size_t, std::string>& maps) {
 }
 
 TEST_F(Wad, FindsMapsByTheLumpAfterThem) {
-    const std::tuple<const char*, Names, Names, std::optional<std::string>> rows[] = {
-        {"lower case things", {"MAP01", "things"}, {}, {}},
-        {"nothing before it", {"THINGS", "MAP01"}, {}, {}},
-        {"the lowest skips, all skip in the list",
-         Lumps({{0, "MAP05"}, {10, "MAP01"}, {20, "MAP07"}, {30, "MAP02"}}),
+    const std::string highest(8, '\xFF');
+    const std::tuple<Names, Names, std::optional<std::string>> rows[] = {
+        {{"THINGS", "MAP01", "things"}, {}, {}},
+        {Lumps({{0, "MAP05"}, {10, "MAP01"}, {20, "MAP07"}, {30, "MAP02"}}),
          {"MAP05", "MAP07"},
          "MAP02"},
-        {"by codes", Lumps({{0, "\xC4"}, {11, "M2"}, {22, "M10"}}), {"\xC4", "M2", "M10"}, "M10"},
-        {"nameless", Lumps({{0, "MAP01"}, {11, ""}}), {"MAP01", ""}, ""},
-        {"highest codes", {std::string(8, '\xFF'), "THINGS"}, {std::string(8, '\xFF')}, {}},
+        {Lumps({{0, "\xC4"}, {11, "M2"}, {22, "M10"}}), {"\xC4", "M2", "M10"}, "M10"},
+        {Lumps({{0, "MAP01"}, {11, ""}}), {"MAP01", ""}, ""},
+        {{highest, "THINGS"}, {highest}, {}},
     };
-    for (const auto& [name, lumps, maps, lowest] : rows) {
-        SCOPED_TRACE(name);
+    for (const auto& [lumps, maps, lowest] : rows) {
         Open(WadOf(lumps));
         EXPECT_EQ(MapNames(wad), maps);
         EXPECT_EQ(LowestMap(wad), lowest);
@@ -156,7 +149,6 @@ TEST_F(Wad, ListsTheMapsThatAnotherToolLists) {
         const std::string listing = folder.Read("log");
         const std::sregex_token_iterator found(listing.begin(), listing.end(), map, 1);
         EXPECT_EQ(MapNames(wad), Names(found, {})) << file;
-        EXPECT_EQ(LowestMap(wad), MapNames(wad).at(0));
     }
 }
 
@@ -174,15 +166,13 @@ TEST_F(Wad, WritesOverAnotherFileByteForByte) {
     ASSERT_TRUE(wad.AddLump(" in b ", ""));
     ASSERT_TRUE(wad.AddLump("", "\0\xFF"s));
     EXPECT_EQ(LumpAt(0), Lump("TENLETTE", 12, 3));
-    wad.WadType(2);
-    ASSERT_TRUE(wad.WriteDirectory());
-    const std::string once = folder.Read("a.wad");
-    EXPECT_EQ(once, Header("PWAD", 3, 17) + "abc\0\xFF"s + Entry(12, 3, "TENLETTE") +
-                        Entry(15, 0, "IN B") + Entry(15, 2, ""));
     wad.WadType(0);
+    wad.WadType(2);
     EXPECT_EQ(wad.WadType(), 0);
     ASSERT_TRUE(wad.WriteDirectory());
-    EXPECT_EQ(folder.Read("a.wad"), "IWAD" + once.substr(4));
+    EXPECT_EQ(folder.Read("a.wad"), Header("IWAD", 3, 17) + "abc\0\xFF"s +
+                                        Entry(12, 3, "TENLETTE") + Entry(15, 0, "IN B") +
+                                        Entry(15, 2, ""));
     EXPECT_EQ(wad.WastedSpace(), 0);
 }
 
@@ -202,17 +192,15 @@ TEST_F(Wad, RefusesToWriteWithoutAChange) {
 }
 
 TEST_F(Wad, AddsLumpsOverTheDirectory) {
-    const std::tuple<const char*, std::string, std::string> rows[] = {
-        {"one lump", Header("PWAD", 1, 14) + "xy" + Entry(12, 2, " OLD") + "tail",
+    const std::pair<std::string, std::string> rows[] = {
+        {Header("PWAD", 1, 14) + "xy" + Entry(12, 2, " OLD") + "tail",
          Header("PWAD", 2, 16) + "xyzz" + Entry(12, 2, "OLD") + Entry(14, 2, "NEW")},
-        {"unfinished", Header("PWAD", -1, 12) + "rest",
-         Header("PWAD", 1, 14) + "zz" + Entry(12, 2, "NEW")},
-        {"cut off entries", Header("PWAD", 3, 12) + Entry(12, 0, "OLD"),
-         Header("PWAD", 4, 14) + "zz" + Entry(12, 0, "OLD") + Entry(0, 0, "") + Entry(0, 0, "") +
+        {Header("PWAD", -1, 12) + "rest", Header("PWAD", 1, 14) + "zz" + Entry(12, 2, "NEW")},
+        {Header("PWAD", 2, 12) + Entry(12, 0, "OLD"),  // the second entry is cut off
+         Header("PWAD", 3, 14) + "zz" + Entry(12, 0, "OLD") + Entry(0, 0, "") +
              Entry(12, 2, "NEW")},
     };
-    for (const auto& [name, before, after] : rows) {
-        SCOPED_TRACE(name);
+    for (const auto& [before, after] : rows) {
         Open(before);
         ASSERT_TRUE(wad.AddLump("new", "zz"));
         EXPECT_GE(wad.NumForName("new"), 0);
