@@ -36,8 +36,9 @@ TEST_F(State, StartsOnceThereIsAnEngineFile) {
 
 TEST_F(State, ReadsEngineFilesInTheOrderOfTheirNames) {
     folder.Write("engines/b.cfg", EngineFile + "\"Same Name\"; executable = \"second\";");
-    folder.Write("engines/A.cfg", EngineFile + "\"Same Name\"; executable { a = 1; } demoext = 7;"
-                                               "parameters = \"x\"; filetypes = 1;");
+    folder.Write("engines/A.cfg", EngineFile +
+                                      "\"Same Name\"; executable { a = 1; } demoext = 7;"
+                                      "parameters = \"x\"; filetypes = 1;");
     folder.Write("engines/c.CFG", EngineFile + "\"Other\";");
     folder.Write("engines/d.txt", EngineFile + "\"No definition\";");
     folder.Write("engines/e.cfg", "realname = \"E\"; type = \"ZORVANE ENGINE FILE\";");

@@ -32,7 +32,7 @@ void StartDesktop() {
     WatchSessionEnd();
     // Once the event loop runs, so that decoding it does not delay the first window.
     QTimer::singleShot(0, qApp, [] { QApplication::setWindowIcon(ProgramIcon()); });
-}
+}  // NOLINT(clang-analyzer-cplusplus.NewDeleteLeaks): Qt owns the slot
 
 void DoEvents() {
     QApplication::processEvents();

@@ -31,29 +31,29 @@ void FitInto(QPainter& painter, const QRectF& rect, QSizeF size) {
 /// A slanted stripe of the band, `from` and `to` at its lower edge.
 QPolygonF Stripe(double from, double to, double height) {
     const double slant = height * 10 / 13;
-    return {{{from, height}, {from + slant, 0}, {to + slant, 0}, {to, height}}};
+    return QList<QPointF>{{from, height}, {from + slant, 0}, {to + slant, 0}, {to, height}};
 }
 
 QPainterPath Outline(std::string_view name) {
     QPainterPath path;
     if (name == "map") {
-        path.addPolygon(QPolygonF{{{1.5, 3.5},
-                                   {5.5, 1.5},
-                                   {10.5, 3.5},
-                                   {14.5, 1.5},
-                                   {14.5, 12.5},
-                                   {10.5, 14.5},
-                                   {5.5, 12.5},
-                                   {1.5, 14.5},
-                                   {1.5, 3.5}}});
-        path.addPolygon(QPolygonF{{{5.5, 1.5}, {5.5, 12.5}}});
-        path.addPolygon(QPolygonF{{{10.5, 3.5}, {10.5, 14.5}}});
+        path.addPolygon(QPolygonF(QList<QPointF>{{1.5, 3.5},
+                                                 {5.5, 1.5},
+                                                 {10.5, 3.5},
+                                                 {14.5, 1.5},
+                                                 {14.5, 12.5},
+                                                 {10.5, 14.5},
+                                                 {5.5, 12.5},
+                                                 {1.5, 14.5},
+                                                 {1.5, 3.5}}));
+        path.addPolygon(QPolygonF(QList<QPointF>{{5.5, 1.5}, {5.5, 12.5}}));
+        path.addPolygon(QPolygonF(QList<QPointF>{{10.5, 3.5}, {10.5, 14.5}}));
     } else if (name == "text") {
-        path.addPolygon(QPolygonF{
-            {{2.5, 1.5}, {9.5, 1.5}, {13.5, 5.5}, {13.5, 14.5}, {2.5, 14.5}, {2.5, 1.5}}});
-        path.addPolygon(QPolygonF{{{9.5, 1.5}, {9.5, 5.5}, {13.5, 5.5}}});
-        path.addPolygon(QPolygonF{{{5, 8.5}, {11, 8.5}}});
-        path.addPolygon(QPolygonF{{{5, 11.5}, {11, 11.5}}});
+        path.addPolygon(QPolygonF(QList<QPointF>{
+            {2.5, 1.5}, {9.5, 1.5}, {13.5, 5.5}, {13.5, 14.5}, {2.5, 14.5}, {2.5, 1.5}}));
+        path.addPolygon(QPolygonF(QList<QPointF>{{9.5, 1.5}, {9.5, 5.5}, {13.5, 5.5}}));
+        path.addPolygon(QPolygonF(QList<QPointF>{{5, 8.5}, {11, 8.5}}));
+        path.addPolygon(QPolygonF(QList<QPointF>{{5, 11.5}, {11, 11.5}}));
     }
     return path;
 }
@@ -100,8 +100,8 @@ void DrawMark(QPainter& painter, const QRectF& rect) {
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
     painter.setBrush(ember);
-    painter.drawPolygon(
-        QPolygonF{{{6, 0}, {42, 0}, {22, 26}, {42, 26}, {36, 40}, {0, 40}, {20, 14}, {0, 14}}});
+    painter.drawPolygon(QPolygonF(
+        QList<QPointF>{{6, 0}, {42, 0}, {22, 26}, {42, 26}, {36, 40}, {0, 40}, {20, 14}, {0, 14}}));
     painter.restore();
 }
 
