@@ -3,7 +3,6 @@
 #include <QApplication>
 #include <QEventLoop>
 #include <QSocketNotifier>
-#include <QTimer>
 #include <QWindow>
 
 #include "platform/shell.h"
@@ -30,15 +29,15 @@ void StartDesktop() {
     QApplication::setQuitOnLastWindowClosed(false);
     ApplyLook();
     WatchSessionEnd();
-    // Once the event loop runs, so that decoding it does not delay the first window.
-    QTimer::singleShot(0, qApp, [] { QApplication::setWindowIcon(ProgramIcon()); });
-}  // NOLINT(clang-analyzer-cplusplus.NewDeleteLeaks): Qt owns the slot
+}
 
 void DoEvents() {
     QApplication::processEvents();
 }
 
 int RunEventLoop() {
+    // Only now, so that decoding it does not delay the first window.
+    QApplication::setWindowIcon(ProgramIcon());
     return RunWatchedEventLoop();
 }
 
