@@ -64,13 +64,17 @@ void MainWindow::Record() {
     recordDemoRequested_ = true;
     playDemoRequested_ = false;
     const EngineRecord& engine = EngineAt(cmbEngines.ListIndex());
-    frmDemoSave.DemoFileName = engine.path + "\\temp.lmp";
-    frmDemoSave.DemoExt = engine.demoext;
+    const std::string demoFile = engine.path + "\\temp.lmp";
+    const std::string demoExt = engine.demoext;
+    frmDemoSave.DemoFileName = demoFile;
     RunQuickStart();
-    if (!platform::IsOrdinaryFile(frmDemoSave.DemoFileName)) {
+    if (!platform::IsOrdinaryFile(demoFile)) {
         Warn(NoDemo);
         return;
     }
+    // A second recording may have changed both while this one waited.
+    frmDemoSave.DemoFileName = demoFile;
+    frmDemoSave.DemoExt = demoExt;
     Repaint();
     frmDemoSave.ShowModal();
 }

@@ -75,30 +75,6 @@ TEST(Reader, ReadsAnyTextIntoATree) {
     }
 }
 
-TEST(Reader, ContinuesAtAPosition) {
-    const std::string text = "a=1;}b=2;}";
-    std::size_t position = 0;
-    EXPECT_TRUE(ParseBlock(position, text)->Exists("a"));
-    EXPECT_EQ(position, 5U);
-    EXPECT_FALSE(ParseBlock(position, text)->Exists("a"));
-    EXPECT_EQ(position, text.size());
-}
-
-TEST(Reader, KeepsTheLastOfManyRepeatedKeys) {
-    std::string text;
-    for (int entry = 0; entry < 200; ++entry) {
-        text += std::to_string(entry / 2) + "=" + std::to_string(entry) + ";";
-    }
-    clsConfiguration document;
-    ASSERT_TRUE(document.InputConfiguration(text));
-    ASSERT_EQ(document.Root()->Count(), 100);
-    for (int key = 0; key < 100; ++key) {
-        const ConfigEntry& entry = document.Root()->Entries()[static_cast<std::size_t>(key)];
-        EXPECT_EQ(entry.key, std::to_string(key));
-        EXPECT_EQ(entry.value.AsWhole(), key * 2 + 1);
-    }
-}
-
 TEST(Reader, ReportsATextThatWasCutOff) {
     clsConfiguration document;
     for (const char* text : {"", "a=\"x\"", "a{b=\"/*\";}b=1", "/* */ // c", "/*/", "}a{"}) {

@@ -26,11 +26,12 @@ struct Lists : Session {
         }
     }
     /// Makes a patch WAD the selected file and asks for its first map.
-    std::string UseFirstMapOf(const std::string& bytes) {
+    std::string UseFirstMapOf(const std::string& bytes,
+                              desktop::MessageIcon icon = desktop::MessageIcon::Exclamation) {
         driver::Click(frmMain.cmdClear);
         Add({folder.Write("Patch.wad", bytes)});
         driver::DoubleClick(frmMain.lstFiles, 0);
-        return memory::TakeMessage();
+        return memory::TakeMessage(icon);
     }
     /// Which of the four controls that follow the selection are enabled.
     static std::string Enabled() {
@@ -139,7 +140,8 @@ TEST_F(Lists, UseFirstMapMovesToTheLowest) {
                   path + ".");
     EXPECT_TRUE(UseFirstMapOf(MapWad("PWAD", {"E1M1", ""})).starts_with("Warning: The map  does"));
     EXPECT_EQ(frmMain.cmbMaps.Text(), "") << "a map without a name is the lowest";
-    EXPECT_EQ(UseFirstMapOf("no WAD at all"), "There are no map lumps in " + path + ".");
+    EXPECT_EQ(UseFirstMapOf("no WAD at all", desktop::MessageIcon::Information),
+              "There are no map lumps in " + path + ".");
     EXPECT_EQ(frmMain.cmbMaps.ListIndex(), -1);
 }
 

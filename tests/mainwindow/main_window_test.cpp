@@ -40,6 +40,43 @@ TEST_F(MainWindowCase, FirstRunIsEmptyAndSaysWhatIsMissing) {
               "available in the list, please specify them in the Setup dialog.");
 }
 
+TEST_F(MainWindowCase, EverythingIsBackInTheSecondRun) {
+    StartWithGame();
+    EngineAt(0).options[1] = true;
+    memory::machine.files = {folder.Write("patch.wad", MapWad("PWAD", {"E1M2"}))};
+    driver::Click(frmMain.cmdAdd);
+    driver::DoubleClick(frmMain.lstFiles, 0);
+    driver::Choose(frmMain.cmbSkill, 4);
+    driver::Type(frmMain.txtParameters, "-turbo \"1\"");
+    driver::Click(frmMain.chkFastMonsters);
+    driver::Click(frmMain.chkRespawnMonsters);
+    driver::Click(frmMain.cmdLaunch);
+    driver::Click(frmMain.cmdRun);
+    EXPECT_TRUE(Ends([] { driver::Close(frmMain); })) << "it saves like Exit";
+    const std::string saved = SettingsBytes();
+    EXPECT_TRUE(saved.starts_with(
+        "type = \"Zorvane Configuration file\";\r\nengine = 0;\r\niwad = 0;\r\nskill = 4;\r\n"
+        "map = 1;\r\nfastmonsters = 1;\r\nnomonsters = 0;\r\nrespawnmonsters = 1;\r\n"
+        "deathmatch = 0;\r\nparameters = \"-turbo \\\"1\\\"\";\r\nlastdir = \"" +
+        Stored("") + "\";\r\n\r\niwads\r\n"))
+        << saved;
+    ASSERT_TRUE(Start());
+    EXPECT_TRUE(frmMain.chkRespawnMonsters.Checked());
+    driver::Click(frmMain.cmdRun);
+    Exit();
+    EXPECT_EQ(SettingsBytes(), saved);
+    const std::string game = folder.Path("game.wad");
+    const auto& started = memory::machine.started;
+    EXPECT_EQ(started.at(0).file, folder.Path("ports\\Alpha.exe"));
+    EXPECT_EQ(started.at(0).show, 5);
+    EXPECT_EQ(started.at(0).parameters, "-switch2 -iwad " + game);
+    for (const auto& run : {started.at(1), started.at(2)}) {
+        EXPECT_EQ(run.file, started.at(0).file);
+        EXPECT_EQ(run.parameters, "-switch2 -file \"" + folder.Path("patch.wad") + "\"  -iwad \"" +
+                                      game + "\" -skill 5 -fast -respawn -warp 1 2  -turbo \"1\"");
+    }
+}
+
 TEST_F(MainWindowCase, StoredIndexesWithoutARowSelectNothingAndStay) {
     WriteSettings("engine = 9; iwad = 7; map = 40; skill = 11;");
     ASSERT_TRUE(Start());
@@ -74,13 +111,34 @@ TEST_F(MainWindowCase, RecordingLeavesTheWindowAlive) {
     memory::machine.program = [this](const auto&) { folder.Write("ports/temp.lmp", "demo"); };
     memory::machine.rounds = 3;
     memory::machine.onEvents = [] { frmMain.cmbSkill.SetListIndex(memory::machine.rounds); };
-    driver::InNextModal([] { driver::PressEnter(frmDemoSave); });
+    driver::InNextModal([] {
+        EXPECT_EQ(memory::machine.repaints, 1);
+        driver::PressEnter(frmDemoSave);
+    });
     driver::Click(frmMain.cmdDemo);
     EXPECT_EQ(frmMain.cmbSkill.ListIndex(), 0) << "to the last round";
     EXPECT_EQ(folder.Read("demo.lmp"), "demo") << "the first text box proposes, Enter saves";
     memory::machine.rounds = 1;
     memory::machine.onEvents = [] { driver::Click(frmMain.cmdExit); };
     EXPECT_TRUE(Ends([] { driver::Click(frmMain.cmdDemo); })) << "Exit works while waiting";
+}
+
+TEST_F(MainWindowCase, ASecondRecordingLeavesTheFirstItsFile) {
+    DefineEngine("Beta");
+    StartWithGame();
+    EngineAt(1).path = folder.Path("no demos");
+    const std::string demo = folder.Write("ports/temp.lmp", "demo");
+    memory::machine.rounds = 1;
+    memory::machine.onEvents = [] {
+        memory::machine.onEvents = nullptr;
+        driver::Choose(frmMain.cmbEngines, 1);
+        EXPECT_TRUE(Pressed(frmMain.cmdDemo).starts_with("Could not find the temporary demo"));
+    };
+    driver::InNextModal([&] {
+        EXPECT_EQ(frmDemoSave.DemoFileName, demo);
+        driver::PressEscape(frmDemoSave);
+    });
+    driver::Click(frmMain.cmdDemo);
 }
 
 TEST_F(MainWindowCase, PlaysADemoBackAndThenNoMore) {

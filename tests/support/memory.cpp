@@ -8,13 +8,18 @@ namespace memory {
 
 Machine machine;
 
-std::string TakeMessage() {
-    return machine.messages.empty() ? std::string() : Take(machine.messages, "");
+std::string TakeMessage(desktop::MessageIcon icon) {
+    if (machine.messages.empty()) {
+        return {};
+    }
+    const Message message = Take(machine.messages, "");
+    EXPECT_EQ(message.icon, icon) << message.text;
+    return message.text;
 }
 
 void Reset() {
-    for (const std::string& message : machine.messages) {
-        ADD_FAILURE() << "unexpected message: " << message;
+    for (const Message& message : machine.messages) {
+        ADD_FAILURE() << "unexpected message: " << message.text;
     }
     EXPECT_TRUE(machine.files.empty() && machine.folders.empty() && machine.texts.empty() &&
                 machine.menus.empty() && machine.steps.empty())
@@ -87,9 +92,9 @@ std::string BrowseForFolderPath(const BrowseInfo& info) {
     return memory::Take(machine.folders, info.lpszTitle);
 }
 
-void ShowMessage(const std::string& text, const std::string& title, MessageIcon) {
+void ShowMessage(const std::string& text, const std::string& title, MessageIcon icon) {
     EXPECT_EQ(title, "Zorvane");
-    machine.messages.push_back(text);
+    machine.messages.push_back({text, icon});
 }
 
 std::string AskForText(const std::string& prompt, const std::string&, const std::string& preset) {

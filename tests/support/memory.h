@@ -15,6 +15,11 @@
 
 namespace memory {
 
+struct Message {
+    std::string text;
+    desktop::MessageIcon icon;
+};
+
 struct TextQuestion {
     std::string prompt;
     std::string preset;
@@ -33,7 +38,8 @@ struct Machine {
     std::string programDirectory;
     std::string commandLine;
     std::vector<std::string> refusedArguments;
-    std::deque<std::string> messages;         // that were shown
+    std::deque<Message> messages;             // that were shown
+    int repaints = 0;                         // that were asked for
     std::deque<std::string> files;            // chosen in file dialogs, empty for Cancel
     std::deque<std::string> folders;          // chosen in folder dialogs
     std::deque<std::string> texts;            // typed into input boxes
@@ -68,7 +74,8 @@ Answer Take(std::deque<Answer>& queue, const std::string& question, Answer other
     return answer;
 }
 
-/// The oldest message that was shown, taken out of the list; an empty text when there is none.
-std::string TakeMessage();
+/// Removes the oldest message that was shown and returns its text, empty if there is none. Another
+/// icon than that one fails the test.
+std::string TakeMessage(desktop::MessageIcon icon = desktop::MessageIcon::Exclamation);
 
 }  // namespace memory

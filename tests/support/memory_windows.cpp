@@ -42,7 +42,9 @@ void ShowWindow(toolkit::Window& window) {
     focused = NextInTabOrder(window, -1);
 }
 void HideWindow(toolkit::Window&) {}
-void RepaintWindow(toolkit::Window&) {}
+void RepaintWindow(toolkit::Window&) {
+    ++machine.repaints;
+}
 void CaptionChanged(toolkit::Window&) {}
 void RunModal(toolkit::Window& window) {
     toolkit::Control* opener = focused;
