@@ -15,7 +15,7 @@ ConfigMapRef Read(std::string_view text) {
 }
 
 /// Makes of each number what it comes back as: one with a point keeps what 32 bits carry.
-/// Gives whether all of the tree comes back, as all does but a text with a ";" under the empty key.
+/// Returns whether all of the tree is read back, which fails only for a ";" under the empty key.
 bool Settle(ConfigMap& map) {
     bool survives = true;
     for (const std::string& key : map.Keys()) {

@@ -1,5 +1,5 @@
-// What every back end owes the controls: the same cases run on each of them. A change made by code
-// runs the handler once and shows; what a person does arrives and shows.
+// The contract of every back end: the same cases run on each of them. A change made by code runs
+// the handler once and is shown; so is what a user does.
 #include <gtest/gtest.h>
 
 #include "contract/form.h"
@@ -52,8 +52,8 @@ class Controls : public testing::Test {
         desktop::DoEvents();
     }
 
-    /// Takes the steps; after each the control shows what is said, and as many events have come.
-    void Follow(const toolkit::Control& control, const std::vector<Step>& steps) {
+    /// Takes the steps, and checks after each what the control shows and how many events came.
+    void Take(const toolkit::Control& control, const std::vector<Step>& steps) {
         SCOPED_TRACE("control " + std::to_string(control.Index()));
         for (const Step& step : steps) {
             step.act();
@@ -68,12 +68,15 @@ class Controls : public testing::Test {
     std::string pressed;
 };
 
-TEST_F(Controls, ComeUpAsTheirTableSays) {
+TEST_F(Controls, AppearAsDeclared) {
     for (int loading = 1; loading <= 2; ++loading) {
         EXPECT_EQ(driver::ShownCaption(form), "Form");
-        EXPECT_EQ(Shown(form.lblRows) + Shown(form.lblLink), "Files & moreR&D");
-        EXPECT_EQ(Shown(form.cmdYes) + Shown(form.chkBox), "Yes & moreBox");
-        EXPECT_EQ(Shown(form.txtName) + Shown(form.cmbFixed), "");
+        const std::pair<toolkit::Control*, const char*> rows[] = {
+            {&form.lblRows, "Files & more"}, {&form.lblLink, "R&D"}, {&form.chkBox, "Box"},
+            {&form.cmdYes, "Yes & more"},    {&form.txtName, ""},    {&form.cmbFixed, ""}};
+        for (const auto& [control, shown] : rows) {
+            EXPECT_EQ(Shown(*control), shown);
+        }
         EXPECT_EQ(driver::Focused(form), &form.txtName);
         form.txtName.SetText("old");
         form.cmbFixed.AddItem("old");
@@ -97,14 +100,14 @@ TEST_F(Controls, ListsSelectAndForget) {
             {"the old value again", [=] { list->SetListIndex(1); }, "a [b] c d", 0},
             {"the selection stays on its text", [=] { list->RemoveItem(0); }, "[b] c d", 0},
             {"an index past the end", [=] { list->SetListIndex(3); }, "b c d", 0},
-            {"a person's choice", [=] { driver::Choose(*list, 1); }, "b [c] d", 1},
+            {"the user's choice", [=] { driver::Choose(*list, 1); }, "b [c] d", 1},
             {"no selection is a value too", [=] { list->SetListIndex(-1); }, "b c d", 1},
             {"the last row", [=] { list->SetListIndex(2); }, "b c [d]", 1},
-            {"the selected row goes", [=] { list->RemoveItem(2); }, "b c", 0},
+            {"the selected row is removed", [=] { list->RemoveItem(2); }, "b c", 0},
             {"a row", [=] { list->SetListIndex(0); }, "[b] c", 1},
-            {"all go", [=] { list->Clear(); }, "", 0},
+            {"all rows are removed", [=] { list->Clear(); }, "", 0},
         };
-        Follow(*list, steps);
+        Take(*list, steps);
         EXPECT_EQ(list->ListIndex(), -1);
     }
 }
@@ -116,26 +119,26 @@ TEST_F(Controls, ListViewsCountFromOne) {
         {"adding", [&] { list.AddRow("second", "y"); }, "first|x second|y", 0},
         {"a row", [&] { list.SelectRow(2); }, "first|x [second|y]", 0},
         {"a row past the end", [&] { list.SelectRow(3); }, "first|x second|y", 0},
-        {"a person's choice", [&] { driver::Choose(list, 1); }, "[first|x] second|y", 0},
+        {"the user's choice", [&] { driver::Choose(list, 1); }, "[first|x] second|y", 0},
         {"a double click", [&] { driver::DoubleClick(list, 2); }, "first|x [second|y]", 2},
-        {"all go", [&] { list.Clear(); }, "", 0},
+        {"all rows are removed", [&] { list.Clear(); }, "", 0},
     };
-    Follow(list, steps);
+    Take(list, steps);
     EXPECT_EQ(list.SelectedRow(), -1);
 }
 
-TEST_F(Controls, BoxesAndTextsTellEachChangeOnce) {
+TEST_F(Controls, BoxesAndTextsReportEachChangeOnce) {
     const std::vector<Step> checks = {
         {"checked", [&] { form.chkBox.SetChecked(true); }, "[Box]", 1},
         {"checked again", [&] { form.chkBox.SetChecked(true); }, "[Box]", 0},
         {"clicked", [&] { driver::Click(form.chkBox); }, "Box", 1},
     };
-    Follow(form.chkBox, checks);
+    Take(form.chkBox, checks);
     const std::vector<Step> texts = {
         {"set", [&] { form.txtName.SetText("one"); }, "one", 1},
         {"set again", [&] { form.txtName.SetText("one"); }, "one", 0},
     };
-    Follow(form.txtName, texts);
+    Take(form.txtName, texts);
     driver::Type(form.txtName, "two");
     EXPECT_GE(events, 1);
     EXPECT_EQ(form.txtName.Text(), "two");
@@ -170,7 +173,7 @@ TEST_F(Controls, AnEditFieldHasATextBesideItsList) {
     expect("", -1);
 }
 
-TEST_F(Controls, CaptionsEnabledAndVisibleFollowAndStayUntilTheShowing) {
+TEST_F(Controls, ChangesBeforeAndAfterShowingAreShown) {
     for (const bool isShown : {true, false}) {
         form.lblRows.SetCaption("Title & it");
         form.SetCaption("Another form");
@@ -212,7 +215,7 @@ TEST_F(Controls, KeysReachTheirControls) {
     EXPECT_EQ(driver::Focused(form), &form.txtName);
 }
 
-TEST_F(Controls, ListBoxesTellThePointer) {
+TEST_F(Controls, ListBoxesReportThePointer) {
     toolkit::ListBox& list = form.lstRows;
     for (const char* text : {"a", "b", "c"}) {
         list.AddItem(text);
@@ -243,7 +246,7 @@ TEST_F(Controls, ListBoxesTellThePointer) {
     EXPECT_EQ(pressed, "a [b] c");
 }
 
-TEST_F(Controls, PointerOverTheBareWindowAndNothingElse) {
+TEST_F(Controls, ThePointerIsReportedOnceAndOnlyWhereAsked) {
     std::string seen;
     form.OnTip = [&](std::string_view) { seen = "window"; };
     form.cmdYes.OnPointerMoved = [&](double, double) { seen = "yes"; };

@@ -1,4 +1,4 @@
-// A real windowing system wants to be started once, before the first window.
+// Starts the desktop once, before the first window.
 #include <gtest/gtest.h>
 
 #include "toolkit/desktop.h"

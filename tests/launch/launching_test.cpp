@@ -22,13 +22,13 @@ struct Launching : Session {
     Launching() { Engines.emplace_back().parameters = {{"", "-noSound"}, {"", "-2"}, {"", "-3"}}; }
 };
 
-TEST_F(Launching, SwitchesStandInTheirOrderAndInLowerCase) {
+TEST_F(Launching, SwitchesKeepTheirOrderInLowerCase) {
     EXPECT_EQ(LaunchCommandLine(0, "D:\\a.wad"), " -iwad D:\\a.wad");
     EngineAt(0).options[2] = EngineAt(0).options[0] = EngineAt(0).options[9] = true;
     EXPECT_EQ(LaunchCommandLine(0, "D:\\a b.wad"), "-nosound -3 -iwad D:\\a b.wad");
 }
 
-TEST_F(Launching, QuickStartIsRightBlankForBlank) {
+TEST_F(Launching, QuickStartMatchesToEachSpace) {
     clsStringArray files;
     QuickStart start;
     start.gameWad = "D:\\iwads\\game.wad";

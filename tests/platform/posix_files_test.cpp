@@ -43,15 +43,6 @@ TEST(PosixFiles, PipesDevicesAndHiddenFilesAreNotOrdinary) {
     EXPECT_EQ(platform::LookUpFileName(folder.Path("A:b.txt")), "a:b.txt");
 }
 
-TEST(PosixFiles, ProgramsAreFoundUnderTheirNameOnWindows) {
-    const TempFolder folder;
-    File game;
-    EXPECT_TRUE(game.Open(folder.Path("Game"), File::Access::Create));
-    EXPECT_EQ(platform::LookUpFileName(folder.Path("game.EXE")), "game.EXE");
-    EXPECT_FALSE(platform::IsOrdinaryFile(folder.Path("game.EXE")));
-    EXPECT_NE(fcntl(game.Handle(), F_GETFD) & FD_CLOEXEC, 0) << "open in started programs";
-}
-
 TEST(PosixFiles, ReplacingKeepsPermissionsAndFollowsLinks) {
     const TempFolder folder;
     folder.Write("real/a.cfg", "old");
@@ -89,6 +80,7 @@ TEST(PosixFiles, AFullDiskLeavesTheOldFileWholeAndNothingBeside) {
     EXPECT_FALSE(platform::CopyWholeFile(big, old));
     File grown;
     EXPECT_TRUE(grown.Open(big, File::Access::ReadWrite));
+    EXPECT_NE(fcntl(grown.Handle(), F_GETFD) & FD_CLOEXEC, 0) << "open in started programs";
     EXPECT_FALSE(grown.WriteAt(100000, "more"));
     setrlimit(RLIMIT_FSIZE, &anySize);
     std::signal(SIGXFSZ, handler);
@@ -146,14 +138,11 @@ TEST(PosixFacts, OwnArgumentsAreFullPathsInQuotes) {
     fs::current_path(before);
 }
 
-TEST(Paths, BecomeNative) {
+TEST(Paths, AreConvertedAndShownNative) {
     EXPECT_EQ(platform::NativePath(R"(z:\games/port\)"), "/games/port/");
     EXPECT_EQ(platform::NativePath("Z:"), "/");
     EXPECT_EQ(platform::NativePath("D:readme.txt"), std::nullopt);
     EXPECT_EQ(platform::NativePath(std::string_view("/a\0b", 4)), std::nullopt);
-}
-
-TEST(Paths, AreShownNative) {
     EXPECT_EQ(platform::NativeText("a\\b\nsee Z:\\c\\d e\\f\r\ng\\h"),
               "a\\b\nsee /c/d e/f\r\ng\\h");
     EXPECT_EQ(platform::NativeText(R"(-iwad "z:\a b" -file "Z:\c")"), R"(-iwad "/a b" -file "/c")");
@@ -173,6 +162,8 @@ TEST(Paths, AreFoundInAnyCase) {
     EXPECT_EQ(platform::FindPath(folder.Path("port/game/x")), std::nullopt);
     EXPECT_EQ(platform::TargetPath(folder.Path("PORT/New.lmp")), root + "/port/New.lmp");
     EXPECT_EQ(platform::FindProgram(folder.Path("port/game.EXE")), root + "/port/Game");
+    EXPECT_EQ(platform::LookUpFileName(folder.Path("port/game.EXE")), "game.EXE");
+    EXPECT_FALSE(platform::IsOrdinaryFile(folder.Path("port/game.EXE")));
     EXPECT_EQ(platform::FindProgram(folder.Path("port/real.exe")), root + "/port/real.EXE");
     EXPECT_EQ(platform::FindProgram(folder.Path("port.exe")), std::nullopt);
 

@@ -1,4 +1,4 @@
-// What only the Qt windows have to keep: how texts look, names for screen readers, keys in lists.
+// Only in the Qt back end: how texts look, accessible names, keys in lists, an idle event loop.
 #include <gtest/gtest.h>
 
 #include <QAbstractEventDispatcher>
@@ -19,7 +19,7 @@ class QtWindow : public testing::Test {
     QtWindow() {
         form.Load();
         form.lstRows.SetFocus();
-        EXPECT_EQ(desktop::FindNative(&form), nullptr) << "it is made at its first showing";
+        EXPECT_EQ(desktop::FindNative(&form), nullptr) << "created at its first showing";
         form.Show();
     }
     void TearDown() override { form.Unload(); }
@@ -31,7 +31,7 @@ class QtWindow : public testing::Test {
     Form form;
 };
 
-TEST_F(QtWindow, TellsItsNamesAndTakesKeys) {
+TEST_F(QtWindow, HasAccessibleNamesAndTakesKeys) {
     EXPECT_EQ(WidgetOf(form.lstRows).accessibleName().toStdString(), "Files & more");
     EXPECT_EQ(WidgetOf(form.cmdNo).accessibleName().toStdString(), "No");
     EXPECT_EQ(driver::Focused(form), &form.lstRows);
@@ -40,7 +40,7 @@ TEST_F(QtWindow, TellsItsNamesAndTakesKeys) {
     EXPECT_EQ(form.lstRows.ListIndex(), 0);
 }
 
-TEST_F(QtWindow, ShowsUtf8OrElseWindows1252AndPathsWherePathsStand) {
+TEST_F(QtWindow, ShowsUtf8OrElseWindows1252AndNativePaths) {
     form.txtPath.SetText("Z:\\caf\xE9\\x.lmp");
     form.txtName.SetText("-file Z:\\a");
     EXPECT_EQ(driver::ShownText(form.txtPath), "/caf\xC3\xA9/x.lmp");
@@ -53,7 +53,7 @@ TEST_F(QtWindow, ShowsUtf8OrElseWindows1252AndPathsWherePathsStand) {
     EXPECT_EQ(driver::ShownItems(form.lstRows), shown);
     form.lstRows.SetToolTip("Z:\\<b>x</b>.wad");
     EXPECT_TRUE(WidgetOf(form.lstRows).toolTip().contains(QStringLiteral("&lt;b&gt;")))
-        << "a name is no mark-up";
+        << "a name is not markup";
 }
 
 TEST(QtEvents, RunUntilAProcessEndsWithoutPolling) {

@@ -118,7 +118,8 @@ TEST_F(SetupCase, AddsOnlyGameWads) {
     EXPECT_EQ(memory::machine.textQuestions[0].prompt,
               "Please enter the formal name of the game WAD " + LowerCase(game) + ".");
     EXPECT_EQ(memory::machine.textQuestions[0].preset, "Proposed");
-    EXPECT_EQ(ProposedName("D:\\GAME2.WAD") + ProposedName("game.wad\\x"), "");
+    EXPECT_EQ(ProposedName("D:\\GAME2.WAD"), "");
+    EXPECT_EQ(ProposedName("game.wad\\x"), "");
     EXPECT_EQ(ProposedName("C:\\x\\N"), "5") << "a number counts with its text";
 }
 
