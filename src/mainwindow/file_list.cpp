@@ -56,8 +56,8 @@ void MainWindow::FillFileList() {
     if (lstFiles.ListCount() > 0) {
         lstFiles.SetListIndex(0);
     }
-    for (const std::string& file : platform::RefusedArguments()) {
-        Warn("This file cannot be used: " + file + "\r\n" + platform::CheckNativeName(file).reason);
+    for (const std::string& reason : platform::RefusedArguments()) {
+        Warn(reason);
     }
 }
 

@@ -30,7 +30,8 @@ VersionNumbers ProgramVersion();
 /// too, without RefusedArguments; on Windows they are as they were typed.
 std::string OwnCommandLine();
 
-/// Names of files on the command line that Zorvane cannot use (see CheckNativeName in files.h).
+/// The reason for each file on the command line that Zorvane cannot use (see CheckNativeName in
+/// files.h).
 std::vector<std::string> RefusedArguments();
 
 /// Ends the process at once, whatever is still open.

@@ -75,9 +75,9 @@ bool Exists(const std::string& path);
 /// `foo.exe`.
 std::optional<std::string> LookUpFileName(const std::string& path);
 
-/// Whether Zorvane can use a file of this native path. On Linux it cannot if the path contains a
-/// double quote, which would end it on a command line, or a backslash, which would separate
-/// folders.
+/// Whether Zorvane can use a file of this native path; the reason of a failure names it. On Linux
+/// it cannot if the path contains a double quote, which would end it on a command line, or a
+/// backslash, which would separate folders.
 Outcome CheckNativeName(std::string_view path);
 
 /// Bare names of the ordinary files in `directory` that match `pattern` (`*` and `?`, in any case),

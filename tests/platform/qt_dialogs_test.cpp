@@ -90,6 +90,17 @@ TEST(Dialogs, FillTheRecordWithTheFilesPicked) {
     }
 }
 
+TEST(Dialogs, RefuseNamesThatCannotBeUsed) {
+    const TempFolder folder;
+    folder.Write("a\\b.wad", "");
+    desktop::OpenFileName record;
+    record.lpstrInitialDir = folder.Path();
+    for (const char* typed : {"a\\b.wad", "", ""}) {  // the message and the dialog are cancelled
+        driver::InNextModal([typed] { Answer(typed); });
+    }
+    EXPECT_FALSE(desktop::GetOpenFileNameA(record));
+}
+
 TEST(Dialogs, ChooseFolders) {
     const TempFolder folder;
     for (const std::string& typed : {folder.Native().string(), ""s}) {

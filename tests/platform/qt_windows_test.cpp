@@ -51,6 +51,8 @@ TEST_F(QtWindow, ShowsUtf8OrElseWindows1252AndNativePaths) {
     }
     const std::vector<std::string> shown = {"/a & b.wad", "d\u00F6m", "\u20AC \u201Cx\u201D"};
     EXPECT_EQ(driver::ShownItems(form.lstRows), shown);
+    form.lblRows.SetCaption(std::string(100'000, 'x'));
+    EXPECT_EQ(driver::ShownText(form.lblRows).size(), 4096 + std::string("\u2026").size());
     form.lstRows.SetToolTip("Z:\\<b>x</b>.wad");
     EXPECT_TRUE(WidgetOf(form.lstRows).toolTip().contains(QStringLiteral("&lt;b&gt;")))
         << "a name is not markup";

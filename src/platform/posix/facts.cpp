@@ -102,9 +102,13 @@ std::string OwnCommandLine() {
 }
 
 std::vector<std::string> RefusedArguments() {
-    std::vector<std::string> refused;
-    std::ranges::copy_if(ownArguments, std::back_inserter(refused), IsRefused);
-    return refused;
+    std::vector<std::string> reasons;
+    for (const std::string& argument : ownArguments) {
+        if (IsRefused(argument)) {
+            reasons.push_back(CheckNativeName(argument).reason);
+        }
+    }
+    return reasons;
 }
 
 void EndProcess() {

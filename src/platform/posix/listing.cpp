@@ -67,7 +67,8 @@ Outcome CheckNativeName(std::string_view path) {
     if (path.find_first_of("\"\\") == std::string_view::npos) {
         return {};
     }
-    return {false, "A name with a double quote or a backslash cannot be used."};
+    return {false, "This file cannot be used: " + std::string(path) +
+                       "\r\nIts name contains a double quote or a backslash."};
 }
 
 std::vector<std::string> ListFiles(const std::string& directory, const std::string& pattern) {

@@ -5,6 +5,7 @@
 #include <QLabel>
 #include <QLayout>
 
+#include "platform/files.h"
 #include "platform/posix/paths.h"
 #include "toolkit/dialogs.h"
 #include "toolkit/qt/native_windows.h"
@@ -19,11 +20,22 @@ QWidget* OwnerOf(const toolkit::Window* window) {
     return owner != nullptr && owner->isVisible() ? owner : FrontWindow();
 }
 
-/// The Windows path of a native path, whose bytes are those of the file system.
-std::string WindowsPathOf(const QString& native) {
-    const QByteArray bytes = QFile::encodeName(QDir::cleanPath(native));
-    return platform::WindowsPath(
-        std::string_view(bytes.constData(), static_cast<std::size_t>(bytes.size())));
+/// Shows the dialog until it is cancelled or all of the chosen names can be used. Returns their
+/// Windows paths.
+std::vector<std::string> PathsChosenIn(QFileDialog& dialog) {
+    std::vector<std::string> paths;
+    while (paths.empty() && dialog.exec() == QDialog::Accepted) {
+        for (const QString& file : dialog.selectedFiles()) {
+            const std::string native = QFile::encodeName(QDir::cleanPath(file)).toStdString();
+            if (const auto usable = platform::CheckNativeName(native); !usable) {
+                ShowMessage(usable.reason, Encode(dialog.windowTitle()), MessageIcon::Exclamation);
+                paths.clear();
+                break;
+            }
+            paths.push_back(platform::WindowsPath(native));
+        }
+    }
+    return paths;
 }
 
 void StartIn(QFileDialog& dialog, const std::string& folder) {
@@ -39,13 +51,7 @@ bool PickFiles(QFileDialog& dialog, OpenFileName& record) {
     dialog.setOption(QFileDialog::HideNameFilterDetails);
     dialog.setNameFilters(NameFilters(record.lpstrFilter));
     StartIn(dialog, record.lpstrInitialDir);
-    std::vector<std::string> paths;
-    if (dialog.exec() == QDialog::Accepted) {
-        for (const QString& file : dialog.selectedFiles()) {
-            paths.push_back(WindowsPathOf(file));
-        }
-    }
-    record.lpstrFile = PickedFiles(paths);
+    record.lpstrFile = PickedFiles(PathsChosenIn(dialog));
     return !record.lpstrFile.empty();
 }
 
@@ -88,10 +94,8 @@ std::string BrowseForFolderPath(const BrowseInfo& info) {
     dialog.setFileMode(QFileDialog::Directory);
     dialog.setOption(QFileDialog::ShowDirsOnly);
     ShowInstruction(dialog, DisplayText(info.lpszTitle));
-    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
-        return {};
-    }
-    return WindowsPathOf(dialog.selectedFiles().constFirst());
+    const std::vector<std::string> paths = PathsChosenIn(dialog);
+    return paths.empty() ? std::string() : paths.front();
 }
 
 }  // namespace desktop

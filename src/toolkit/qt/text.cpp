@@ -15,6 +15,9 @@ constexpr std::array<char16_t, 32> Codes80To9F = {
     0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
     0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
 
+/// Above this many characters the layout of a text would be slow. It fills a screen.
+constexpr qsizetype LongestDisplayText = 4096;
+
 QString FromWindows1252(std::string_view text) {
     QString result;
     result.reserve(static_cast<qsizetype>(text.size()));
@@ -35,7 +38,12 @@ QString Decode(std::string_view text) {
 }
 
 QString DisplayText(std::string_view text) {
-    return Decode(platform::NativeText(text));
+    QString shown = Decode(platform::NativeText(text));
+    if (shown.size() > LongestDisplayText) {
+        shown.truncate(LongestDisplayText);
+        shown.append(QChar(0x2026));
+    }
+    return shown;
 }
 
 std::string Encode(const QString& text) {

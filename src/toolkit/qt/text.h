@@ -11,7 +11,8 @@ namespace desktop {
 /// Decodes UTF-8, or Windows-1252 if the text is not valid UTF-8.
 QString Decode(std::string_view text);
 
-/// Decodes a text to be shown, with its paths in native notation.
+/// Decodes a text to be shown, with its paths in native notation. Cuts it off after 4096
+/// characters.
 QString DisplayText(std::string_view text);
 
 /// Encodes a text as UTF-8.
