@@ -55,16 +55,14 @@ TEST_F(Lists, AddFilesOneOrSeveralOfAnyNameAndKeepThem) {
     EXPECT_EQ(driver::ShownItems(frmMain.lstFiles), expected);
 }
 
-TEST_F(Lists, FilterByTheSelectedEngine) {
+TEST_F(Lists, FilterByTheSelectedEngineAndRemoveFiles) {
     EXPECT_EQ(FileFilter(-1), "WAD files (*.wad)|*.wad|All files (*.*)|*.*");
     EXPECT_EQ(FileFilter(0),
               "All supported files|*.wad;*.deh;|WAD files (*.wad)|*.wad|Patches (*.deh)|*.deh|"
               "All files (*.*)|*.*");
     EngineAt(0).filetypes.clear();
     EXPECT_EQ(FileFilter(0), "All files (*.*)|*.*");
-}
 
-TEST_F(Lists, RemovingAFileSelectsTheRowBefore) {
     Add({"a", "b", "c"});
     driver::Click(frmMain.cmdRemove);
     EXPECT_EQ(FileList.Count(), 2) << "no selection, nothing happens";

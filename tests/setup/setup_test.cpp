@@ -37,30 +37,22 @@ struct SetupCase : Session {
     }
 };
 
-TEST_F(SetupCase, LastdirFollowsWhatWasOpened) {
+TEST_F(SetupCase, FileDialogsStartInTheLastFolderOrThatOfTheInitialFile) {
     const std::tuple<std::uint32_t, std::string, std::string> rows[] = {
         {OneFileFlags, "D:\\a.wad", "D:"},
         {SeveralFilesFlags, "D:\\wads\\a.wad", "D:\\wads"},
         {SeveralFilesFlags, std::string("D:\\\0a\0b", 7), "D:\\"},
-        {OneFileFlags, std::string(256, 'x'), "D:\\"},
-    };
+        {OneFileFlags, std::string(256, 'x'), "D:\\"}};
     for (const auto& [flags, answer, lastdir] : rows) {
         EXPECT_EQ(Open(flags, answer), answer);
         EXPECT_EQ(SettingText("lastdir"), lastdir);
     }
-    EXPECT_EQ(Open(OneFileFlags, ""), "");
-    EXPECT_EQ(Open(OneFileFlags, "C:\\" + std::string(254, 'x')), "") << "too long";
-    EXPECT_EQ(SettingText("lastdir"), "D:\\") << "nothing chosen leaves it alone";
-}
-
-TEST_F(SetupCase, FileDialogsStartWhereTheInitialFileLies) {
-    Open(OneFileFlags, "", folder.Write("sub/there.lmp", ""));
-    Open(OneFileFlags, "", folder.Path("sub\\gone.lmp"));
-    const auto& questions = memory::machine.fileQuestions;
-    EXPECT_EQ(questions[0].lpstrInitialDir, folder.Path("sub") + "\\");
-    EXPECT_EQ(questions[1].lpstrInitialDir, SettingText("lastdir"));
-    EXPECT_EQ(questions[0].lpstrFile, "") << "the name field starts empty";
-    EXPECT_EQ(questions[0].hwndOwner, &frmSetup);
+    EXPECT_EQ(Open(OneFileFlags, "", folder.Write("sub/there.lmp", "")), "");
+    EXPECT_EQ(memory::machine.fileQuestions.back().lpstrInitialDir, folder.Path("sub") + "\\");
+    EXPECT_EQ(memory::machine.fileQuestions.back().lpstrFile, "") << "the name field starts empty";
+    EXPECT_EQ(Open(OneFileFlags, "C:\\" + std::string(254, 'x'), "gone.lmp"), "") << "too long";
+    EXPECT_EQ(memory::machine.fileQuestions.back().lpstrInitialDir, "D:\\");
+    EXPECT_EQ(SettingText("lastdir"), "D:\\") << "unchanged by what was not chosen";
 }
 
 TEST_F(SetupCase, RemovingKeepsTheRowNumberOrFallsBackToTheFirst) {
@@ -83,19 +75,7 @@ TEST_F(SetupCase, RemovingKeepsTheRowNumberOrFallsBackToTheFirst) {
     EXPECT_EQ(frmMain.cmbIWADs.ListCount(), 0);
 }
 
-TEST_F(SetupCase, RenamesAndKeepsTheNameOnCancel) {
-    InSetup([] {
-        memory::machine.texts = {"", "New name"};
-        driver::Click(frmSetup.cmdRename);
-        driver::DoubleClick(frmSetup.lvwIWADs, 2);
-    });
-    EXPECT_EQ(memory::machine.textQuestions[0].prompt,
-              "Please enter the name of the game WAD C:\\A.WAD.");
-    EXPECT_EQ(memory::machine.textQuestions[1].preset, "b");
-    EXPECT_EQ(driver::ShownItems(frmMain.cmbIWADs), (Texts{"a", "New name", "c"}));
-}
-
-TEST_F(SetupCase, AddsOnlyGameWads) {
+TEST_F(SetupCase, AddsOnlyGameWadsAndRenamesThem) {
     ASSERT_TRUE(
         Autodetect.InputConfiguration("game.wad = \"Proposed\"; GAME2.wad = \"never\"; n = 5;"));
     const std::string game = folder.Write("Game.WAD", MapWad("IWAD", {"E1M1"}));
@@ -108,16 +88,22 @@ TEST_F(SetupCase, AddsOnlyGameWads) {
                       "Please select a game IWAD. The file you selected was a patch WAD.");
         }
         memory::machine.files = {"", game, game};
-        memory::machine.texts = {"", "Mine"};
+        memory::machine.texts = {"", "Mine", "", "New name"};
         for (int i = 0; i < 3; ++i) {
             driver::Click(frmSetup.cmdAdd);
         }
+        driver::Choose(frmSetup.lvwIWADs, 1);
+        driver::Click(frmSetup.cmdRename);
+        driver::DoubleClick(frmSetup.lvwIWADs, 2);
     });
-    EXPECT_EQ(driver::ShownItems(frmMain.cmbIWADs), (Texts{"a", "b", "c", "Mine"}));
+    EXPECT_EQ(driver::ShownItems(frmMain.cmbIWADs), (Texts{"a", "New name", "c", "Mine"}));
     EXPECT_EQ(GameWadAt(3).file, game) << "in its own case";
-    EXPECT_EQ(memory::machine.textQuestions[0].prompt,
+    const auto& questions = memory::machine.textQuestions;
+    EXPECT_EQ(questions[0].prompt,
               "Please enter the formal name of the game WAD " + LowerCase(game) + ".");
-    EXPECT_EQ(memory::machine.textQuestions[0].preset, "Proposed");
+    EXPECT_EQ(questions[0].preset, "Proposed");
+    EXPECT_EQ(questions[2].prompt, "Please enter the name of the game WAD C:\\A.WAD.");
+    EXPECT_EQ(questions[3].preset, "b");
     EXPECT_EQ(ProposedName("D:\\GAME2.WAD"), "");
     EXPECT_EQ(ProposedName("game.wad\\x"), "");
     EXPECT_EQ(ProposedName("C:\\x\\N"), "5") << "a number counts with its text";

@@ -81,8 +81,6 @@ TEST_F(Wad, CountsEntriesThatTheFileCutsOff) {
     EXPECT_EQ(LumpAt(1), Lump("", INT_MAX, 3));
     EXPECT_EQ(LumpAt(3), Lump("", 0, 0));
     EXPECT_EQ(wad.NumForName(""), 1);
-    EXPECT_EQ(wad.Directory().Find("", 3), 3);
-    EXPECT_EQ(wad.Directory().Find("", 4), -1);
 }
 
 TEST_F(Wad, ReadsLumpsAnywhere) {
@@ -134,18 +132,18 @@ TEST_F(Wad, FindsMapsByTheLumpAfterThem) {
 }
 
 TEST_F(Wad, ListsTheMapsThatAnotherToolLists) {
-    const std::filesystem::path tool = "/usr/games/deutex";
+    const std::string tool = "/usr/games/deutex";
     const std::regex map(R"rx(\n(\S+)[^\n]*\nTHINGS )rx");
     for (const char* file : {"freedoom1.wad", "freedoom2.wad", "freedm.wad"}) {
         const std::string path = std::string("/usr/share/games/doom/") + file;
         wad.OpenWad(path);
-        if (wad.WadFileName() != path || !tool.is_absolute() || !exists(tool)) {
+        if (wad.WadFileName() != path || !std::filesystem::exists(tool)) {
             GTEST_SKIP() << file << " or the tool is not installed";
         }
-        const std::string command = "cd '" + folder.Native().string() + "' && ln -sf " + path +
-                                    " doom2.wad && " + tool.string() +
-                                    " -doom2 . -wadir doom2.wad >log 2>&1";
-        EXPECT_NE(std::system(command.c_str()), -1);
+        EXPECT_NE(std::system(("cd '" + folder.Native().string() + "' && ln -sf " + path +
+                               " doom2.wad && " + tool + " -doom2 . -wadir doom2.wad >log 2>&1")
+                                  .c_str()),
+                  -1);
         const std::string listing = folder.Read("log");
         const std::sregex_token_iterator found(listing.begin(), listing.end(), map, 1);
         EXPECT_EQ(MapNames(wad), Names(found, {})) << file;
