@@ -68,24 +68,36 @@ class Controls : public testing::Test {
     std::string pressed;
 };
 
-TEST_F(Controls, AppearAsDeclared) {
-    for (int loading = 1; loading <= 2; ++loading) {
-        EXPECT_EQ(driver::ShownCaption(form), "Form");
-        const std::pair<toolkit::Control*, const char*> rows[] = {
-            {&form.lblRows, "Files & more"}, {&form.lblLink, "R&D"}, {&form.chkBox, "Box"},
-            {&form.cmdYes, "Yes & more"},    {&form.txtName, ""},    {&form.cmbFixed, ""}};
-        for (const auto& [control, shown] : rows) {
-            EXPECT_EQ(Shown(*control), shown);
-        }
-        EXPECT_EQ(driver::Focused(form), &form.txtName);
-        form.txtName.SetText("old");
-        form.cmbFixed.AddItem("old");
+TEST_F(Controls, ShowWhatWasDeclaredOrChangedBeforeAndAfterShowing) {
+    const std::pair<toolkit::Control*, const char*> rows[] = {
+        {&form.lblRows, "Files & more"}, {&form.lblLink, "R&D"}, {&form.chkBox, "Box"},
+        {&form.cmdYes, "Yes & more"},    {&form.txtName, ""},    {&form.cmbFixed, ""}};
+    for (const bool isShown : {true, false}) {
+        EXPECT_EQ(driver::ShownCaption(form), isShown ? "Form" : "");
+        form.lblRows.SetCaption("Title & it");
+        form.SetCaption("Another form");
+        form.cmdYes.SetEnabled(false);
+        form.cmdNo.SetVisible(false);
+        form.txtName.SetText("text");
         form.chkBox.SetChecked(true);
-        form.SetCaption("old");
-        form.Unload();
-        EXPECT_FALSE(form.Visible());
         ShowForm();
+        EXPECT_EQ(Shown(form.lblRows), "Title & it");
+        EXPECT_EQ(driver::ShownCaption(form), "Another form");
+        EXPECT_FALSE(driver::LookAt(form.cmdYes).enabled);
+        EXPECT_FALSE(driver::LookAt(form.cmdNo).visible);
+        driver::Click(form.cmdYes);
+        EXPECT_EQ(pressed, "") << "a disabled button cannot be pressed";
+        form.Unload();
+        form.Load();
+        for (const auto& [control, shown] : rows) {
+            EXPECT_EQ(Shown(*control), shown) << "as declared after loading again";
+        }
     }
+    ShowForm();
+    EXPECT_EQ(driver::Focused(form), &form.txtName);
+    driver::Click(form.cmdYes);
+    driver::Click(form.lblLink);
+    EXPECT_EQ(pressed, "yes link ");
 }
 
 TEST_F(Controls, ListsSelectAndForget) {
@@ -171,28 +183,6 @@ TEST_F(Controls, AnEditFieldHasATextBesideItsList) {
     EXPECT_EQ(events, 1);
     combo.Clear();
     expect("", -1);
-}
-
-TEST_F(Controls, ChangesBeforeAndAfterShowingAreShown) {
-    for (const bool isShown : {true, false}) {
-        form.lblRows.SetCaption("Title & it");
-        form.SetCaption("Another form");
-        form.cmdYes.SetEnabled(false);
-        form.cmdNo.SetVisible(false);
-        ShowForm();
-        EXPECT_EQ(Shown(form.lblRows), "Title & it") << isShown;
-        EXPECT_EQ(driver::ShownCaption(form), "Another form") << isShown;
-        EXPECT_FALSE(driver::LookAt(form.cmdYes).enabled) << isShown;
-        EXPECT_FALSE(driver::LookAt(form.cmdNo).visible) << isShown;
-        driver::Click(form.cmdYes);
-        EXPECT_EQ(pressed, "") << "a disabled button cannot be pressed";
-        form.Unload();
-        form.Load();
-    }
-    ShowForm();
-    driver::Click(form.cmdYes);
-    driver::Click(form.lblLink);
-    EXPECT_EQ(pressed, "yes link ");
 }
 
 TEST_F(Controls, KeysReachTheirControls) {

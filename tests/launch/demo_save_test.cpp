@@ -44,7 +44,7 @@ TEST_F(DemoSave, AFailedCopyKeepsDialogAndDemo) {
         Show([&] {
             SaveAs(name);
             EXPECT_TRUE(frmDemoSave.Visible());
-            EXPECT_TRUE(memory::TakeMessage().starts_with("The demo could not be saved to "));
+            EXPECT_TRUE(TakeMessage().starts_with("The demo could not be saved to "));
             driver::Close(frmDemoSave);
         });
         EXPECT_EQ(folder.Read("temp.lmp"), "demo") << name << ", closed by the frame";
@@ -53,20 +53,20 @@ TEST_F(DemoSave, AFailedCopyKeepsDialogAndDemo) {
 
 TEST_F(DemoSave, BrowsingReplacesTheNameAndEscapeDiscards) {
     Show([&] {
-        memory::machine.files = {"", folder.Path("other.v2.wad")};
+        machine.files = {"", folder.Path("other.v2.wad")};
         driver::Click(frmDemoSave.cmdBrowse);
         EXPECT_EQ(frmDemoSave.txtDemoFile.Text(), folder.Path("demos\\demo.lmp")) << "cancelled";
         driver::Click(frmDemoSave.cmdBrowse);
         EXPECT_EQ(frmDemoSave.txtDemoFile.Text(), folder.Path("other.v2.lmp"));
         EXPECT_EQ(SettingText("lastdir"), folder.Path("demos")) << "only opening moves it";
-        EXPECT_EQ(memory::machine.fileQuestions[0].lpstrFilter,
+        EXPECT_EQ(machine.fileQuestions[0].lpstrFilter,
                   std::string("Demo files (*.lmp)\0*.lmp\0All files (*.*)\0*.*", 44));
-        EXPECT_EQ(memory::machine.fileQuestions[0].Flags, 6U);
+        EXPECT_EQ(machine.fileQuestions[0].Flags, 6U);
         driver::PressEscape(frmDemoSave);
     });
     EXPECT_FALSE(HasTemporary());
     Show([] { driver::Click(frmDemoSave.cmdDiscard); });
-    EXPECT_TRUE(memory::TakeMessage().starts_with("The temporary demo file could not be deleted"));
+    EXPECT_TRUE(TakeMessage().starts_with("The temporary demo file could not be deleted"));
 }
 
 }  // namespace

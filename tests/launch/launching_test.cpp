@@ -22,13 +22,11 @@ struct Launching : Session {
     Launching() { Engines.emplace_back().parameters = {{"", "-noSound"}, {"", "-2"}, {"", "-3"}}; }
 };
 
-TEST_F(Launching, SwitchesKeepTheirOrderInLowerCase) {
+TEST_F(Launching, CommandLinesMatchToEachSpace) {
     EXPECT_EQ(LaunchCommandLine(0, "D:\\a.wad"), " -iwad D:\\a.wad");
     EngineAt(0).options[2] = EngineAt(0).options[0] = EngineAt(0).options[9] = true;
     EXPECT_EQ(LaunchCommandLine(0, "D:\\a b.wad"), "-nosound -3 -iwad D:\\a b.wad");
-}
-
-TEST_F(Launching, QuickStartMatchesToEachSpace) {
+    EngineAt(0).options = {};
     clsStringArray files;
     QuickStart start;
     start.gameWad = "D:\\iwads\\game.wad";
@@ -67,8 +65,8 @@ TEST_F(Launching, CompletesBareNamesAndStartsInTheFilesFolder) {
     for (auto [file, started, directory] : rows) {
         EXPECT_NE(RunProgram(file, "-x", ShowMaximized, false), 0);
         EXPECT_EQ(file, started) << "the caller's text follows";
-        EXPECT_EQ(memory::machine.started.back().file, started);
-        EXPECT_EQ(memory::machine.started.back().directory, directory);
+        EXPECT_EQ(machine.started.back().file, started);
+        EXPECT_EQ(machine.started.back().directory, directory);
     }
 }
 

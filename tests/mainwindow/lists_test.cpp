@@ -21,7 +21,7 @@ struct Lists : Session {
     /// Adds each of these results of the file dialog.
     static void Add(const Texts& chosen) {
         for (const std::string& choice : chosen) {
-            memory::machine.files = {choice};
+            machine.files = {choice};
             driver::Click(frmMain.cmdAdd);
         }
     }
@@ -31,7 +31,7 @@ struct Lists : Session {
         driver::Click(frmMain.cmdClear);
         Add({folder.Write("Patch.wad", bytes)});
         driver::DoubleClick(frmMain.lstFiles, 0);
-        return memory::TakeMessage(icon);
+        return TakeMessage(icon);
     }
     /// Which of the four controls that follow the selection are enabled.
     static std::string Enabled() {
@@ -49,7 +49,7 @@ TEST_F(Lists, AddFilesOneOrSeveralOfAnyNameAndKeepThem) {
     const Texts expected = {
         "D:\\q\"uote;{}.wad", "D:\\w\\b.wad", "D:\\w\\a  a.deh",      "D:\\w\\c",
         "D:\\\\\xff\xfe",     "D:\\\\|",      "D:\\new\r\nline\ttab", "D:\\q\"uote;{}.wad"};
-    EXPECT_EQ(memory::machine.fileQuestions.back().Flags, 528900U);
+    EXPECT_EQ(machine.fileQuestions.back().Flags, 528900U);
     Exit();
     ASSERT_TRUE(Start());
     EXPECT_EQ(driver::ShownItems(frmMain.lstFiles), expected);
@@ -105,11 +105,11 @@ TEST_F(Lists, TheMenuOfFilesNeedsASelectedRow) {
     driver::RightClick(frmMain.lstFiles, 0);
     EXPECT_EQ(frmMain.lstFiles.ListIndex(), 0);
     EXPECT_EQ(driver::Focused(frmMain), &frmMain.lstFiles);
-    EXPECT_TRUE(memory::machine.started.at(0).file.ends_with("\\a.txt"));
-    EXPECT_EQ(memory::machine.started[0].show, 7);
-    memory::machine.accepts = false;
+    EXPECT_TRUE(machine.started.at(0).file.ends_with("\\a.txt"));
+    EXPECT_EQ(machine.started[0].show, 7);
+    machine.accepts = false;
     driver::Click(frmMain.cmdShowTextFile);
-    EXPECT_EQ(memory::machine.started.size(), 2U) << "a file that went since fails silently";
+    EXPECT_EQ(machine.started.size(), 2U) << "a file that went since fails silently";
 }
 
 TEST_F(Lists, TheRowOfTheMapSurvivesAChangeOfGame) {

@@ -20,7 +20,7 @@ struct MainWindowCase : Session {
     }
     static std::string Pressed(toolkit::Button& button) {
         driver::Click(button);
-        return memory::TakeMessage();
+        return TakeMessage();
     }
 };
 
@@ -43,7 +43,7 @@ TEST_F(MainWindowCase, FirstRunIsEmptyAndSaysWhatIsMissing) {
 TEST_F(MainWindowCase, EverythingIsBackInTheSecondRun) {
     StartWithGame();
     EngineAt(0).options[1] = true;
-    memory::machine.files = {folder.Write("patch.wad", MapWad("PWAD", {"E1M2"}))};
+    machine.files = {folder.Write("patch.wad", MapWad("PWAD", {"E1M2"}))};
     driver::Click(frmMain.cmdAdd);
     driver::DoubleClick(frmMain.lstFiles, 0);
     driver::Choose(frmMain.cmbSkill, 4);
@@ -66,7 +66,7 @@ TEST_F(MainWindowCase, EverythingIsBackInTheSecondRun) {
     Exit();
     EXPECT_EQ(SettingsBytes(), saved);
     const std::string game = folder.Path("game.wad");
-    const auto& started = memory::machine.started;
+    const auto& started = machine.started;
     EXPECT_EQ(started.at(0).file, folder.Path("ports\\Alpha.exe"));
     EXPECT_EQ(started.at(0).show, 5);
     EXPECT_EQ(started.at(0).parameters, "-switch2 -iwad " + game);
@@ -91,9 +91,9 @@ TEST_F(MainWindowCase, StoredIndexesWithoutARowSelectNothingAndStay) {
 
 TEST_F(MainWindowCase, SaysSoWhenTheEngineDoesNotStart) {
     StartWithGame();
-    memory::machine.accepts = false;
-    memory::machine.onEvents = [] { ADD_FAILURE() << "there is nothing to wait for"; };
-    memory::machine.rounds = 1;
+    machine.accepts = false;
+    machine.onEvents = [] { ADD_FAILURE() << "there is nothing to wait for"; };
+    machine.rounds = 1;
     EXPECT_EQ(Pressed(frmMain.cmdLaunch),
               "Could not launch the game. Check your engine paths and game WAD settings.");
     for (auto* button : {&frmMain.cmdRun, &frmMain.cmdDemo}) {
@@ -101,25 +101,25 @@ TEST_F(MainWindowCase, SaysSoWhenTheEngineDoesNotStart) {
                   "Could not run the game. Please make sure all of your engine, game WAD and Quick "
                   "Game settings are valid.");
     }
-    EXPECT_TRUE(memory::TakeMessage().starts_with("Could not find the temporary demo file."));
-    memory::machine.accepts = true;
+    EXPECT_TRUE(TakeMessage().starts_with("Could not find the temporary demo file."));
+    machine.accepts = true;
     EXPECT_EQ(Pressed(frmMain.cmdRun), "") << "and only a recording is waited for";
 }
 
 TEST_F(MainWindowCase, RecordingLeavesTheWindowAlive) {
     StartWithGame();
-    memory::machine.program = [this](const auto&) { folder.Write("ports/temp.lmp", "demo"); };
-    memory::machine.rounds = 3;
-    memory::machine.onEvents = [] { frmMain.cmbSkill.SetListIndex(memory::machine.rounds); };
+    machine.program = [this](const auto&) { folder.Write("ports/temp.lmp", "demo"); };
+    machine.rounds = 3;
+    machine.onEvents = [] { frmMain.cmbSkill.SetListIndex(machine.rounds); };
     driver::InNextModal([] {
-        EXPECT_EQ(memory::machine.repaints, 1);
+        EXPECT_EQ(machine.repaints, 1);
         driver::PressEnter(frmDemoSave);
     });
     driver::Click(frmMain.cmdDemo);
     EXPECT_EQ(frmMain.cmbSkill.ListIndex(), 0) << "to the last round";
     EXPECT_EQ(folder.Read("demo.lmp"), "demo") << "the first text box proposes, Enter saves";
-    memory::machine.rounds = 1;
-    memory::machine.onEvents = [] { driver::Click(frmMain.cmdExit); };
+    machine.rounds = 1;
+    machine.onEvents = [] { driver::Click(frmMain.cmdExit); };
     EXPECT_TRUE(Ends([] { driver::Click(frmMain.cmdDemo); })) << "Exit works while waiting";
 }
 
@@ -128,9 +128,9 @@ TEST_F(MainWindowCase, ASecondRecordingLeavesTheFirstItsFile) {
     StartWithGame();
     EngineAt(1).path = folder.Path("no demos");
     const std::string demo = folder.Write("ports/temp.lmp", "demo");
-    memory::machine.rounds = 1;
-    memory::machine.onEvents = [] {
-        memory::machine.onEvents = nullptr;
+    machine.rounds = 1;
+    machine.onEvents = [] {
+        machine.onEvents = nullptr;
         driver::Choose(frmMain.cmbEngines, 1);
         EXPECT_TRUE(Pressed(frmMain.cmdDemo).starts_with("Could not find the temporary demo"));
     };
@@ -143,12 +143,12 @@ TEST_F(MainWindowCase, ASecondRecordingLeavesTheFirstItsFile) {
 
 TEST_F(MainWindowCase, PlaysADemoBackAndThenNoMore) {
     StartWithGame();
-    memory::machine.files = {"", folder.Path("run.lmp"), std::string("D:\\w\0b.lmp\0a.lmp", 16)};
+    machine.files = {"", folder.Path("run.lmp"), std::string("D:\\w\0b.lmp\0a.lmp", 16)};
     for (auto* button :
          {&frmMain.cmdPlayBack, &frmMain.cmdPlayBack, &frmMain.cmdPlayBack, &frmMain.cmdRun}) {
         driver::Click(*button);
     }
-    const auto& started = memory::machine.started;
+    const auto& started = machine.started;
     ASSERT_EQ(started.size(), 3U) << "a cancelled dialog starts nothing";
     EXPECT_TRUE(started[0].parameters.ends_with("-playdemo \"" + folder.Path("run.lmp") + "\" "));
     EXPECT_TRUE(started[1].parameters.ends_with("-playdemo \"D:\\w\\b.lmp\" "));
@@ -167,7 +167,7 @@ TEST_F(MainWindowCase, TipsFollowThePointer) {
     EXPECT_EQ(tip(frmMain.cmdSettings), "Adjust Alpha's options.");
     driver::PointAt(frmMain);
     EXPECT_EQ(frmMain.lblTip.Caption(), "");
-    memory::machine.files = {std::string("D:\\w\0a.wad\0b.wad", 16)};
+    machine.files = {std::string("D:\\w\0a.wad\0b.wad", 16)};
     driver::Click(frmMain.cmdAdd);
     for (const int row : {1, 5}) {
         driver::PointAt(frmMain.lstFiles, row);
@@ -177,14 +177,14 @@ TEST_F(MainWindowCase, TipsFollowThePointer) {
 
 TEST_F(MainWindowCase, LinksOpenAndEscapeIsExit) {
     ASSERT_TRUE(Start());
-    memory::machine.accepts = false;
+    machine.accepts = false;
     driver::InNextModal([] {
         driver::Click(frmCredits.lblLinkCoder);
         driver::PressEnter(frmCredits);
     });
     driver::Click(frmMain.cmdAbout);
-    EXPECT_EQ(memory::machine.started.at(0).file, frmCredits.lblLinkCoder.Caption());
-    EXPECT_EQ(memory::machine.started[0].show, 3);
+    EXPECT_EQ(machine.started.at(0).file, frmCredits.lblLinkCoder.Caption());
+    EXPECT_EQ(machine.started[0].show, 3);
     EXPECT_TRUE(Ends([] { driver::PressEscape(frmMain); }));
 }
 

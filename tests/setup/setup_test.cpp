@@ -24,7 +24,7 @@ struct SetupCase : Session {
     }
     static std::string Open(std::uint32_t flags, const std::string& answer,
                             const std::string& initial = "") {
-        memory::machine.files = {answer};
+        machine.files = {answer};
         return OpenFileDialog(frmSetup, "Title", "All|*.*", initial, flags);
     }
     /// Does the steps in the dialog and accepts.
@@ -48,10 +48,10 @@ TEST_F(SetupCase, FileDialogsStartInTheLastFolderOrThatOfTheInitialFile) {
         EXPECT_EQ(SettingText("lastdir"), lastdir);
     }
     EXPECT_EQ(Open(OneFileFlags, "", folder.Write("sub/there.lmp", "")), "");
-    EXPECT_EQ(memory::machine.fileQuestions.back().lpstrInitialDir, folder.Path("sub") + "\\");
-    EXPECT_EQ(memory::machine.fileQuestions.back().lpstrFile, "") << "the name field starts empty";
+    EXPECT_EQ(machine.fileQuestions.back().lpstrInitialDir, folder.Path("sub") + "\\");
+    EXPECT_EQ(machine.fileQuestions.back().lpstrFile, "") << "the name field starts empty";
     EXPECT_EQ(Open(OneFileFlags, "C:\\" + std::string(254, 'x'), "gone.lmp"), "") << "too long";
-    EXPECT_EQ(memory::machine.fileQuestions.back().lpstrInitialDir, "D:\\");
+    EXPECT_EQ(machine.fileQuestions.back().lpstrInitialDir, "D:\\");
     EXPECT_EQ(SettingText("lastdir"), "D:\\") << "unchanged by what was not chosen";
 }
 
@@ -82,13 +82,13 @@ TEST_F(SetupCase, AddsOnlyGameWadsAndRenamesThem) {
     InSetup([&] {
         const std::string patch = folder.Write("p.wad", WadOf({}, "PWAD"));
         for (const std::string& bad : {patch, folder.Write("t.wad", "text"), folder.Path()}) {
-            memory::machine.files = {bad};
+            machine.files = {bad};
             driver::Click(frmSetup.cmdAdd);
-            EXPECT_EQ(memory::TakeMessage(),
+            EXPECT_EQ(TakeMessage(),
                       "Please select a game IWAD. The file you selected was a patch WAD.");
         }
-        memory::machine.files = {"", game, game};
-        memory::machine.texts = {"", "Mine", "", "New name"};
+        machine.files = {"", game, game};
+        machine.texts = {"", "Mine", "", "New name"};
         for (int i = 0; i < 3; ++i) {
             driver::Click(frmSetup.cmdAdd);
         }
@@ -98,7 +98,7 @@ TEST_F(SetupCase, AddsOnlyGameWadsAndRenamesThem) {
     });
     EXPECT_EQ(driver::ShownItems(frmMain.cmbIWADs), (Texts{"a", "New name", "c", "Mine"}));
     EXPECT_EQ(GameWadAt(3).file, game) << "in its own case";
-    const auto& questions = memory::machine.textQuestions;
+    const auto& questions = machine.textQuestions;
     EXPECT_EQ(questions[0].prompt,
               "Please enter the formal name of the game WAD " + LowerCase(game) + ".");
     EXPECT_EQ(questions[0].preset, "Proposed");
@@ -111,7 +111,7 @@ TEST_F(SetupCase, AddsOnlyGameWadsAndRenamesThem) {
 
 TEST_F(SetupCase, SetsTheFolderOfTheSelectedEngine) {
     driver::InNextModal([] {
-        memory::machine.folders = {"D:\\" + std::string(257, 'x'), "D:\\Beta"};
+        machine.folders = {"D:\\" + std::string(257, 'x'), "D:\\Beta"};
         driver::Click(frmSetup.cmdPath);
         driver::Choose(frmSetup.lvwEngines, 2);
         driver::Click(frmSetup.cmdPath);
@@ -119,8 +119,7 @@ TEST_F(SetupCase, SetsTheFolderOfTheSelectedEngine) {
         driver::Close(frmSetup);
     });
     driver::Click(frmMain.cmdSetup);
-    EXPECT_EQ(memory::machine.folderQuestions[1],
-              "Please select the folder in which beta.exe resides.");
+    EXPECT_EQ(machine.folderQuestions[1], "Please select the folder in which beta.exe resides.");
     EXPECT_EQ(frmMain.cmbIWADs.Text(), "c") << "closing by the frame accepts";
 }
 

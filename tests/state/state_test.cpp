@@ -17,7 +17,7 @@ struct State : Session {
         EXPECT_NE(SettingsBytes().find(part), std::string::npos) << SettingsBytes();
     }
     static void ExpectCritical(const std::string& start) {
-        const std::string message = memory::TakeMessage(desktop::MessageIcon::Critical);
+        const std::string message = TakeMessage(desktop::MessageIcon::Critical);
         EXPECT_EQ(message.substr(0, start.size()), start);
     }
 };
@@ -132,7 +132,7 @@ TEST_F(State, KeepsTheFirstDamagedFileAndUsesWhatIsLeft) {
         SCOPED_TRACE(bytes);
         folder.Write("zorvane.cfg", bytes);
         ASSERT_TRUE(Start());
-        EXPECT_EQ(memory::TakeMessage().ends_with("zorvane.cfg.damaged"), isIncomplete);
+        EXPECT_EQ(TakeMessage().ends_with("zorvane.cfg.damaged"), isIncomplete);
         EXPECT_EQ(SettingsBytes(), bytes);
         Exit();
         EXPECT_EQ(folder.Read("zorvane.cfg.damaged"), rows[0].first);
@@ -162,18 +162,18 @@ TEST_F(State, QuotedPathsOfTheCommandLineReplaceTheFileList) {
     };
     for (const auto& [line, files] : rows) {
         WriteSettings("iwads {} engines {} pwads { 0 = \"C:\\\\stored.wad\"; }");
-        memory::machine.commandLine = line;
+        machine.commandLine = line;
         ASSERT_TRUE(Start());
         EXPECT_EQ(driver::ShownItems(frmMain.lstFiles), files);
         EXPECT_EQ(frmMain.lstFiles.ListIndex(), files.empty() ? -1 : 0);
         Exit();
-        memory::machine.commandLine = "";
+        machine.commandLine = "";
         ASSERT_TRUE(Start());
         EXPECT_EQ(driver::ShownItems(frmMain.lstFiles), files) << "as saved";
     }
-    memory::machine.refusedArguments = {"reason"};
+    machine.refusedArguments = {"reason"};
     ASSERT_TRUE(Start());
-    EXPECT_EQ(memory::TakeMessage(), "reason");
+    EXPECT_EQ(TakeMessage(), "reason");
 }
 
 }  // namespace

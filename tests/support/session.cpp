@@ -30,17 +30,15 @@ std::vector<std::string> NumberedMaps(int count) {
 std::string MapWad(std::string_view tag, const std::vector<std::string>& maps) {
     std::vector<std::string> lumps;
     for (const std::string& map : maps) {
-        for (const char* lump : {map.c_str(), "THINGS", "LINEDEFS", "SIDEDEFS", "VERTEXES", "SEGS",
-                                 "SSECTORS", "NODES", "SECTORS", "REJECT", "BLOCKMAP"}) {
-            lumps.emplace_back(lump);
-        }
+        lumps.insert(lumps.end(), {map, "THINGS"});
+        lumps.insert(lumps.end(), 9, "LINEDEFS");
     }
     return WadOf(lumps, tag);
 }
 
 Session::Session() {
     memory::Reset();
-    memory::machine.programDirectory = folder.Path();
+    machine.programDirectory = folder.Path();
 }
 
 Session::~Session() {

@@ -11,6 +11,9 @@
 #include "memory.h"
 #include "temp_folder.h"
 
+using memory::machine;
+using memory::TakeMessage;
+
 /// MAP01 up to that number.
 std::vector<std::string> NumberedMaps(int count);
 /// A WAD of maps, each with its ten lumps of data.
