@@ -4,6 +4,7 @@
 
 #include "toolkit/qt/controls.h"
 #include "toolkit/qt/item_model.h"
+#include "toolkit/qt/native_window.h"
 #include "toolkit/qt/text.h"
 
 namespace desktop {
@@ -24,6 +25,11 @@ class ComboWidget : public QComboBox, public NativeControl {
     }
 
     QWidget& Widget() override { return *this; }
+
+    void hidePopup() override {
+        static_cast<NativeWindow*>(window())->IgnoreEscape();
+        QComboBox::hidePopup();
+    }
 
     void Apply(Property property, int row) override {
         const QSignalBlocker guard(this);

@@ -99,6 +99,11 @@ void NativeWindow::Add(toolkit::Control& control) {
 void NativeWindow::PlaceControls() {
     const UnitSize unit = UnitsOf(font());
     setFixedSize(InPixels({0, 0, window_.Spec().width, window_.Spec().height}, unit).size());
+    if (QGuiApplication::platformName() == QLatin1String("wayland")) {
+        // Its title bars offer to maximise any window. One that cannot take the size is killed.
+        setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
+        resize(minimumSize());
+    }
     const QWidget* before = nullptr;
     for (const toolkit::Control* control : window_.Controls()) {
         QWidget& widget = Find(*control).Widget();
@@ -164,6 +169,12 @@ void NativeWindow::RunUntilHidden() {
     loop.exec(QEventLoop::DialogExec);
 }
 
+void NativeWindow::IgnoreEscape() {
+    ignoresEscape_ = true;
+    QMetaObject::invokeMethod(
+        this, [this] { ignoresEscape_ = false; }, Qt::QueuedConnection);
+}
+
 void NativeWindow::DeleteLater() {
     surfaces_.clear();
     setEnabled(false);
@@ -214,6 +225,9 @@ void NativeWindow::keyPressEvent(QKeyEvent* event) {
             PressButton(toolkit::Default);
         }
     } else if (plain && event->key() == Qt::Key_Escape) {
+        if (ignoresEscape_) {
+            return;
+        }
         if (!PressButton(toolkit::Cancel) && window_.Spec().dialog) {
             window_.UserCloses();
         }
@@ -240,6 +254,14 @@ void NativeWindow::changeEvent(QEvent* event) {
     QWidget::changeEvent(event);
     if (event->type() == QEvent::FontChange) {
         PlaceControls();
+    } else if (event->type() == QEvent::WindowStateChange && isMaximized()) {
+        QMetaObject::invokeMethod(this, &QWidget::showNormal, Qt::QueuedConnection);
+    }
+}
+
+void NativeWindow::resizeEvent(QResizeEvent*) {
+    if (!isMaximized()) {
+        resize(minimumSize());
     }
 }
 

@@ -22,6 +22,9 @@ class NativeWindow final : public QWidget {
     void Centre(const QWidget* owner);
     /// Handles events until the window is hidden.
     void RunUntilHidden();
+    /// Ignores Escape until the event loop runs again. On Wayland, Qt sends the Escape that closes
+    /// an open list to the window too.
+    void IgnoreEscape();
     /// Hides the window, and deletes it when no handler of its widgets runs any more. Drops its
     /// events until then, since the toolkit window may no longer exist.
     void DeleteLater();
@@ -34,6 +37,7 @@ class NativeWindow final : public QWidget {
     void closeEvent(QCloseEvent* event) override;
     void hideEvent(QHideEvent* event) override;
     void changeEvent(QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
   private:
     void MakeControls(bool background);
@@ -45,6 +49,7 @@ class NativeWindow final : public QWidget {
 
     toolkit::Window& window_;
     QEventLoop* modalLoop_ = nullptr;  // while it is shown modally
+    bool ignoresEscape_ = false;
     std::unordered_map<const toolkit::Control*, NativeControl*> natives_;
     QHash<const QObject*, toolkit::Control*> surfaces_;  // by the widget that receives mouse events
 };
