@@ -2,8 +2,10 @@
 #include <QFile>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QFileSystemModel>
 #include <QLabel>
 #include <QLayout>
+#include <QUrl>
 
 #include "platform/files.h"
 #include "platform/posix/paths.h"
@@ -20,9 +22,27 @@ QWidget* OwnerOf(const toolkit::Window* window) {
     return owner != nullptr && owner->isVisible() ? owner : FrontWindow();
 }
 
+/// Adds the folders in which games and engines are usually installed to the side bar.
+void OfferFolders(QFileDialog& dialog) {
+    QStringList folders = {QStringLiteral("/usr/share/games/doom"),
+                           QStringLiteral("/usr/local/share/games/doom"),
+                           QStringLiteral("/usr/games")};
+    folders += qEnvironmentVariable("DOOMWADDIR");
+    folders += qEnvironmentVariable("DOOMWADPATH").split(QLatin1Char(':'));
+    QList<QUrl> places = dialog.sidebarUrls();
+    for (const QString& folder : folders) {
+        const QUrl place = QUrl::fromLocalFile(folder);
+        if (QDir::isAbsolutePath(folder) && QFileInfo(folder).isDir() && !places.contains(place)) {
+            places.append(place);
+        }
+    }
+    dialog.setSidebarUrls(places);
+}
+
 /// Shows the dialog until it is cancelled or all of the chosen names can be used. Returns their
 /// Windows paths.
 std::vector<std::string> PathsChosenIn(QFileDialog& dialog) {
+    OfferFolders(dialog);
     std::vector<std::string> paths;
     while (paths.empty() && dialog.exec() == QDialog::Accepted) {
         for (const QString& file : dialog.selectedFiles()) {
@@ -67,6 +87,15 @@ void ShowInstruction(QFileDialog& dialog, const QString& text) {
     }
 }
 
+/// In a dialog for folders, so that a folder of programs does not look empty.
+void ShowFilesDisabled(QFileDialog& dialog) {
+    dialog.setOption(QFileDialog::HideNameFilterDetails);
+    dialog.setNameFilter(QFileDialog::tr("Directories") + QStringLiteral(" (/)"));
+    if (auto* model = dialog.findChild<QFileSystemModel*>()) {
+        model->setNameFilterDisables(true);
+    }
+}
+
 }  // namespace
 
 bool GetOpenFileNameA(OpenFileName& record) {
@@ -92,8 +121,8 @@ bool GetSaveFileNameA(OpenFileName& record) {
 std::string BrowseForFolderPath(const BrowseInfo& info) {
     QFileDialog dialog(OwnerOf(info.hwndOwner));
     dialog.setFileMode(QFileDialog::Directory);
-    dialog.setOption(QFileDialog::ShowDirsOnly);
-    ShowInstruction(dialog, DisplayText(info.lpszTitle));
+    ShowFilesDisabled(dialog);
+    ShowInstruction(dialog, DisplayText(info.lpszTitle).remove(QLatin1String(".exe")));
     const std::vector<std::string> paths = PathsChosenIn(dialog);
     return paths.empty() ? std::string() : paths.front();
 }
