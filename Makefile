@@ -3,8 +3,9 @@
 MAKEFLAGS += --no-print-directory
 INSTALL := $(if $(NO_INSTALL),@:,@scripts/install-packages)
 SECONDS_PER_TARGET ?= 60
+KILLS ?= 500
 
-.PHONY: help run tour test sanitize bench fuzz windows test-zips test-windows bench-windows \
+.PHONY: help run tour test sanitize bench fuzz torture windows test-zips test-windows bench-windows \
 	package test-package format lint clean
 
 help:
@@ -14,6 +15,7 @@ help:
 	@echo 'make sanitize      run the tests with address and undefined-behaviour sanitizers'
 	@echo 'make bench         run the benchmarks'
 	@echo 'make fuzz          run each fuzz target for a minute (SECONDS_PER_TARGET=60)'
+	@echo 'make torture       kill saves, make system calls fail, read hostile files (KILLS=500)'
 	@echo 'make windows       build the Windows programs and their zips, in dist/'
 	@echo 'make test-zips     check that the same sources make the same zips'
 	@echo 'make test-windows  run the tests of the Windows build under Wine'
@@ -67,6 +69,12 @@ fuzz:
 	cmake --build build/fuzz --target fuzz/all
 	@scripts/run-fuzz build/fuzz $(SECONDS_PER_TARGET)
 
+torture:
+	$(INSTALL) build desktop test display torture
+	cmake --preset release -DZORVANE_TESTS=ON
+	cmake --build build/release --target zorvane headless
+	@xvfb-run -a tests/torture/torture build/release $(KILLS)
+
 windows:
 	$(INSTALL) build windows
 	cmake --preset win64 -DZORVANE_TESTS=OFF
@@ -78,11 +86,11 @@ windows:
 test-zips: windows
 	packaging/windows/check
 
-# other_side, a program of the Linux build, reads the settings that the Windows program wrote.
+# headless, a program of the Linux build, reads the settings that the Windows program wrote.
 test-windows:
 	$(INSTALL) build desktop windows wine test display
 	cmake --preset release -DZORVANE_TESTS=ON
-	cmake --build build/release --target other_side
+	cmake --build build/release --target headless
 	cmake --preset win64 -DZORVANE_TESTS=ON
 	cmake --build build/win64
 	@tests/windows/under-wine scripts/run-tests build/win64

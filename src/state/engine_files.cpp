@@ -34,7 +34,9 @@ std::string EngineKey(const std::string& realname) {
 
 void ReadEngineFile(const std::string& fileName) {
     clsConfiguration file;
-    if (!file.LoadConfiguration(fileName)) {
+    if (const platform::Outcome read = file.LoadConfiguration(fileName); !read) {
+        EngineFileUnread = true;
+        Warn("The engine file could not be read: " + fileName + "\r\n" + read.reason);
         return;
     }
     ConfigMap& root = *file.Root();

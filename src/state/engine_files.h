@@ -21,7 +21,8 @@
 [[nodiscard]] bool ScanEngineFiles(const std::string& directory);
 
 /// Appends the engine that a file defines to Engines. A missing text is empty, and so is a missing
-/// list. No-op if the file is of another type or if an engine of the same EngineKey exists.
+/// list. No-op if the file is of another type or if an engine of the same EngineKey exists. Shows a
+/// message if the file cannot be read.
 void ReadEngineFile(const std::string& fileName);
 
 /// Key of an engine in the settings file: its name with each space replaced by the character of

@@ -3,6 +3,7 @@
 #include "text/file_names.h"
 
 std::vector<EngineRecord> Engines;
+bool EngineFileUnread = false;
 std::vector<GameWadRecord> GameWads;
 clsStringArray FileList;
 clsConfiguration Settings;
@@ -31,6 +32,7 @@ std::string ProgramFile(const EngineRecord& engine) {
 
 void ResetState() {
     Engines.clear();
+    EngineFileUnread = false;
     GameWads.clear();
     FileList.Clear();
     Settings.NewConfiguration();

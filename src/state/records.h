@@ -49,6 +49,9 @@ struct GameWadRecord {
 /// `options` change after the start. An index of GameWads is a row number as well.
 extern std::vector<EngineRecord> Engines;
 extern std::vector<GameWadRecord> GameWads;
+/// Whether an engine file could not be read. The settings of engines that are not in Engines are
+/// then kept.
+extern bool EngineFileUnread;
 /// Full paths of the additional files, in the order of the main window's list.
 extern clsStringArray FileList;
 

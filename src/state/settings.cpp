@@ -90,7 +90,9 @@ void StoreLists() {
         iwads->Add(std::to_string(i), GameWads[i].name + "|" + GameWads[i].file);
     }
     const ConfigMapRef engines = ListOf("engines");
-    engines->RemoveAll();
+    if (!EngineFileUnread) {
+        engines->RemoveAll();
+    }
     for (const EngineRecord& engine : Engines) {
         const std::string key = EngineKey(engine.realname);
         if (!KeyCanBeReadBack(key)) {
@@ -99,7 +101,7 @@ void StoreLists() {
         const ConfigMapRef entry = std::make_shared<ConfigMap>();
         entry->Add("path", engine.path);
         entry->Add("options", OptionsToString(engine.options));
-        engines->Add(key, entry);
+        engines->Item(key) = entry;
     }
     const ConfigMapRef pwads = ListOf("pwads");
     pwads->RemoveAll();
