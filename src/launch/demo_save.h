@@ -21,13 +21,16 @@ class DemoSaveWindow : public toolkit::Window {
     // clang-format off
     toolkit::Label lblSaveDemo{*this, {.caption = "Save demo to...", .place = {9, 9, 220, 9}}};
     toolkit::TextBox txtDemoFile{*this, {
-        .place = {9, 21, 208, 14}, .tab = 0, .flags = toolkit::IsPath, .label = &lblSaveDemo}};
+        .place = {9, 21, 208, 14}, .tab = 0, .access = 'T', .flags = toolkit::IsPath,
+        .label = &lblSaveDemo}};
     toolkit::Button cmdBrowse{*this, {
-        .caption = "Browse...", .place = {222, 21, 50, 14}, .tab = 1}};
+        .caption = "Browse...", .place = {222, 21, 50, 14}, .tab = 1, .access = 'B'}};
     toolkit::Button cmdSave{*this, {
-        .caption = "Save", .place = {168, 45, 50, 14}, .tab = 2, .flags = toolkit::Default}};
+        .caption = "Save", .place = {168, 45, 50, 14}, .tab = 2, .access = 'S',
+        .flags = toolkit::Default}};
     toolkit::Button cmdDiscard{*this, {
-        .caption = "Discard", .place = {222, 45, 50, 14}, .tab = 3, .flags = toolkit::Cancel}};
+        .caption = "Discard", .place = {222, 45, 50, 14}, .tab = 3, .access = 'D',
+        .flags = toolkit::Cancel}};
     // clang-format on
 
   private:

@@ -39,7 +39,8 @@ class CreditsWindow : public toolkit::Window {
     toolkit::Label lblThingy2{*this, {
         .caption = ")", .place = {232, 116, 10, 9}, .flags = toolkit::Follows}};
     toolkit::Button cmdOK{*this, {
-        .caption = "OK", .place = {232, 136, 50, 14}, .tab = 0, .flags = toolkit::Default}};
+        .caption = "OK", .place = {232, 136, 50, 14}, .tab = 0, .access = 'O',
+        .flags = toolkit::Default}};
     // clang-format on
 };
 

@@ -1,8 +1,11 @@
 #include "setup/engine_settings.h"
 
+#include <algorithm>
+#include <string>
 #include <utility>
 
 #include "launch/command_line.h"
+#include "text/ascii.h"
 
 namespace {
 
@@ -15,6 +18,18 @@ Boxes MakeBoxes(toolkit::Window& window, std::integer_sequence<int, Index...>) {
     return {toolkit::CheckBox(window, {.place = {19 + Index / RowsPerColumn * 164,
                                                  22 + Index % RowsPerColumn * 13, 158, 10},
                                        .tab = Index})...};
+}
+
+/// Returns the first letter of a caption that is not in `used`, and adds it; 0 if there is none.
+char FreeLetter(const std::string& caption, std::string& used) {
+    const std::string letters = UpperCase(caption);
+    const auto isFree = [&](char c) { return c >= 'A' && c <= 'Z' && used.find(c) == used.npos; };
+    const auto found = std::ranges::find_if(letters, isFree);
+    if (found == letters.end()) {
+        return '\0';
+    }
+    used += *found;
+    return *found;
 }
 
 }  // namespace
@@ -40,11 +55,14 @@ void EngineSettingsWindow::PassEngine(int engineNum) {
 
 void EngineSettingsWindow::ShowEngineOptions() {
     const EngineRecord& engine = EngineAt(engineNum_);
+    std::string usedLetters(1, cmdAccept.Access());
     for (std::size_t i = 0; i < chkOptions.size(); ++i) {
         const bool exists = i < engine.parameters.size();
         chkOptions[i].SetVisible(exists);
         if (exists) {
-            chkOptions[i].SetCaption(engine.parameters[i].caption);
+            const std::string& caption = engine.parameters[i].caption;
+            chkOptions[i].SetCaption(caption);
+            chkOptions[i].SetAccess(FreeLetter(caption, usedLetters));
             chkOptions[i].SetChecked(engine.options[i]);
         }
     }

@@ -25,7 +25,8 @@ class EngineSettingsWindow : public toolkit::Window {
         .place = {9, 148, 340, 34}, .tab = 16, .flags = toolkit::Sunken,
         .label = &lblParametersCaption}};
     toolkit::Button cmdAccept{*this, {
-        .caption = "Accept", .place = {299, 190, 50, 14}, .tab = 17, .flags = toolkit::Default}};
+        .caption = "Accept", .place = {299, 190, 50, 14}, .tab = 17, .access = 'A',
+        .flags = toolkit::Default}};
     // clang-format on
 
   private:

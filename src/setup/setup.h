@@ -21,20 +21,25 @@ class SetupWindow : public toolkit::Window {
     // clang-format off
     toolkit::Label lblIWADs{*this, {.caption = "Game WADs", .place = {9, 8, 200, 9}, .tab = 8}};
     toolkit::ListView lvwIWADs{*this, {
-        .caption = "Name|File", .place = {9, 19, 358, 76}, .tab = 0, .label = &lblIWADs}};
+        .caption = "Name|File", .place = {9, 19, 358, 76}, .tab = 0, .access = 'G',
+        .label = &lblIWADs}};
     toolkit::Button cmdRename{*this, {
-        .caption = "Rename", .place = {209, 99, 50, 14}, .tab = 1}};
+        .caption = "Rename", .place = {209, 99, 50, 14}, .tab = 1, .access = 'N'}};
     toolkit::Button cmdRemove{*this, {
-        .caption = "Remove", .place = {263, 99, 50, 14}, .tab = 2}};
-    toolkit::Button cmdAdd{*this, {.caption = "Add", .place = {317, 99, 50, 14}, .tab = 3}};
+        .caption = "Remove", .place = {263, 99, 50, 14}, .tab = 2, .access = 'R'}};
+    toolkit::Button cmdAdd{*this, {
+        .caption = "Add", .place = {317, 99, 50, 14}, .tab = 3, .access = 'D'}};
     toolkit::Label lblEngines{*this, {.caption = "Engines", .place = {9, 120, 200, 9}, .tab = 9}};
     toolkit::ListView lvwEngines{*this, {
-        .caption = "Name|File", .place = {9, 131, 358, 76}, .tab = 4, .label = &lblEngines}};
-    toolkit::Button cmdPath{*this, {.caption = "Path...", .place = {263, 211, 50, 14}, .tab = 5}};
+        .caption = "Name|File", .place = {9, 131, 358, 76}, .tab = 4, .access = 'E',
+        .label = &lblEngines}};
+    toolkit::Button cmdPath{*this, {
+        .caption = "Path...", .place = {263, 211, 50, 14}, .tab = 5, .access = 'P'}};
     toolkit::Button cmdEngineSettings{*this, {
-        .caption = "Settings...", .place = {317, 211, 50, 14}, .tab = 6}};
+        .caption = "Settings...", .place = {317, 211, 50, 14}, .tab = 6, .access = 'S'}};
     toolkit::Button cmdOK{*this, {
-        .caption = "Accept", .place = {317, 237, 50, 14}, .tab = 7, .flags = toolkit::Default}};
+        .caption = "Accept", .place = {317, 237, 50, 14}, .tab = 7, .access = 'A',
+        .flags = toolkit::Default}};
     // clang-format on
 
   private:

@@ -1,5 +1,7 @@
 #include "toolkit/control.h"
 
+#include <algorithm>
+
 namespace toolkit {
 
 Control::Control(Window& window, Kind kind, const ControlSpec& spec)
@@ -7,13 +9,15 @@ Control::Control(Window& window, Kind kind, const ControlSpec& spec)
       spec_(spec),
       index_(static_cast<int>(window.controls_.size())),
       kind_(kind),
-      caption_(spec.caption) {
+      caption_(spec.caption),
+      access_(spec.access) {
     window.controls_.push_back(this);
 }
 
 void Control::Reset() {
     caption_ = spec_.caption;
     toolTip_.clear();
+    access_ = spec_.access;
     enabled_ = true;
     visible_ = true;
 }
@@ -27,6 +31,13 @@ void Control::Changed(desktop::Property property, int row) {
 void Control::SetCaption(std::string caption) {
     if (caption != caption_) {
         caption_ = std::move(caption);
+        Changed(desktop::Property::Caption);
+    }
+}
+
+void Control::SetAccess(char letter) {
+    if (letter != access_) {
+        access_ = letter;
         Changed(desktop::Property::Caption);
     }
 }
@@ -73,6 +84,13 @@ void Control::StoreValue(const std::string& text) {
     if (!spec_.key.empty()) {
         window_.Spec().values->storeText(spec_.key, text);
     }
+}
+
+const Control* Label::Named() const {
+    const auto& controls = Owner().Controls();
+    const auto found = std::ranges::find_if(
+        controls, [this](const Control* control) { return control->Spec().label == this; });
+    return found != controls.end() ? *found : nullptr;
 }
 
 void Button::UserClicks() {

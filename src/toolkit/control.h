@@ -56,6 +56,7 @@ struct ControlSpec {
     std::string_view caption = {};  // list view: the heads of its two columns, separated by "|"
     Place place = {};
     int tab = -1;                          // position in the tab order, -1 for none
+    char access = '\0';                    // capital letter: Alt+letter presses or focuses it
     unsigned flags = 0;                    // a combination of Flag
     std::string_view key = {};             // settings key that keeps the control's value
     const Control* label = nullptr;        // label that names the control to a screen reader
@@ -82,6 +83,9 @@ class Control {
 
     const std::string& Caption() const { return caption_; }
     void SetCaption(std::string caption);
+    /// The letter of its access key, which no other control of the window has; 0 for none.
+    char Access() const { return access_; }
+    void SetAccess(char letter);
     bool Enabled() const { return enabled_; }
     void SetEnabled(bool enabled);
     bool Visible() const { return visible_; }
@@ -121,6 +125,7 @@ class Control {
     const Kind kind_;
     std::string caption_;
     std::string toolTip_;
+    char access_;
     bool enabled_ = true;
     bool visible_ = true;
 };
@@ -130,6 +135,8 @@ class Label : public Control {
   public:
     Label(Window& window, const ControlSpec& spec) : Control(window, Kind::Label, spec) {}
     void UserClicks() { Run(OnClick); }
+    /// The control that has this label; null if there is none.
+    const Control* Named() const;
     std::function<void()> OnClick;
 };
 

@@ -16,15 +16,15 @@ struct Form : toolkit::Window {
     toolkit::ComboBox cmbFree{*this, {.place = {60, 56, 100, 14}, .tab = 1}};
     toolkit::CheckBox chkBox{*this, {.caption = "Box", .place = {180, 16, 60, 12}, .tab = 3}};
     toolkit::ListBox lstRows{*this, {
-        .place = {10, 80, 120, 60}, .tab = 4, .label = &lblRows}};
+        .place = {10, 80, 120, 60}, .tab = 4, .access = 'M', .label = &lblRows}};
     toolkit::ListView lvwRows{*this, {
         .caption = "Name|File", .place = {140, 80, 150, 60}, .tab = 5}};
     toolkit::Button cmdYes{*this, {
-        .caption = "Yes & more", .place = {10, 160, 50, 14}, .tab = 6,
+        .caption = "Yes & more", .place = {10, 160, 50, 14}, .tab = 6, .access = 'R',
         .flags = toolkit::Default}};
     toolkit::Button cmdNo{*this, {
-        .place = {70, 160, 20, 14}, .tab = 7, .flags = toolkit::Cancel, .picture = "map",
-        .accessibleName = "No"}};
+        .place = {70, 160, 20, 14}, .tab = 7, .access = 'N', .flags = toolkit::Cancel,
+        .picture = "map", .accessibleName = "No"}};
     toolkit::TextBox txtPath{*this, {
         .place = {140, 160, 100, 14}, .tab = 8, .flags = toolkit::IsPath}};
 };

@@ -38,6 +38,9 @@ TEST_F(QtWindow, HasAccessibleNamesAndTakesKeys) {
     form.lstRows.AddItem("a");
     QTest::keyClick(&WidgetOf(form.lstRows), Qt::Key_Down);
     EXPECT_EQ(form.lstRows.ListIndex(), 0);
+    driver::Type(form.txtName, "");
+    QTest::keyClick(&WidgetOf(form.txtName), Qt::Key_M, Qt::AltModifier);
+    EXPECT_EQ(driver::Focused(form), &form.lstRows) << "by the letter in its label";
 }
 
 TEST_F(QtWindow, ShowsUtf8OrElseWindows1252AndNativePaths) {

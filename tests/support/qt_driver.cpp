@@ -6,6 +6,7 @@
 #include <QListView>
 #include <QMenu>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QTest>
 #include <QTimer>
 #include <deque>
@@ -174,7 +175,8 @@ Look LookAt(const toolkit::Control& control) {
             look.index = selected.row();
         }
     } else if (button != nullptr || (label != nullptr && label->buddy() != nullptr)) {
-        text.replace(QLatin1String("&&"), QLatin1String("&"));  // it would mark an access key
+        // An "&" marks an access key, unless another one follows.
+        text.replace(QRegularExpression("&(.)"), QStringLiteral("\\1"));
         look.checked = button != nullptr && button->isChecked();
     }
     look.text = Encode(text);

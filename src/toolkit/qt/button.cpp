@@ -25,7 +25,11 @@ class ButtonWidget : public QPushButton, public NativeControl {
 
     void Apply(Property property, int) override {
         if (property == Property::Caption) {
-            setText(EscapeAmpersands(DisplayText(button_.Caption())));
+            const toolkit::ControlSpec& spec = button_.Spec();
+            const bool isPicture = !spec.picture.empty();
+            const QString caption =
+                isPicture ? Decode(spec.accessibleName) : DisplayText(button_.Caption());
+            setText(MarkAccessKey(caption, button_.Access()));
         }
     }
 
@@ -33,7 +37,8 @@ class ButtonWidget : public QPushButton, public NativeControl {
     toolkit::Button& button_;
 };
 
-/// A button with a picture, whose size follows the font.
+/// A button with a picture, whose size follows the font. Its text is not shown: it is its
+/// accessible name, and has its access key.
 class PictureButtonWidget final : public ButtonWidget {
   public:
     PictureButtonWidget(toolkit::Button& button, QWidget& parent)
@@ -45,6 +50,12 @@ class PictureButtonWidget final : public ButtonWidget {
         icon.addPixmap(Draw(color), QIcon::Normal);
         icon.addPixmap(Draw(Blend(color, palette().color(QPalette::Window), 0.6)), QIcon::Disabled);
         setIcon(icon);
+    }
+
+  protected:
+    void initStyleOption(QStyleOptionButton* option) const override {
+        ButtonWidget::initStyleOption(option);
+        option->text.clear();
     }
 
   private:
@@ -79,7 +90,11 @@ class AccentButtonWidget final : public ButtonWidget {
         }
         const double strength = isEnabled() ? 1 : 0.6;
         painter.setPen(QColor::fromRgbF(1, 1, 1, static_cast<float>(strength)));
-        painter.drawText(rect(), Qt::AlignCenter | Qt::TextShowMnemonic, text());
+        const bool underlined =
+            style()->styleHint(QStyle::SH_UnderlineShortcut, &option, this) != 0;
+        painter.drawText(
+            rect(), Qt::AlignCenter | (underlined ? Qt::TextShowMnemonic : Qt::TextHideMnemonic),
+            text());
     }
 
   private:

@@ -20,7 +20,7 @@ class CheckBoxWidget final : public QCheckBox, public NativeControl {
 
     void Apply(Property property, int) override {
         if (property == Property::Caption) {
-            setText(EscapeAmpersands(DisplayText(box_.Caption())));
+            setText(MarkAccessKey(DisplayText(box_.Caption()), box_.Access()));
         } else if (property == Property::Checked) {
             const QSignalBlocker guard(this);
             setChecked(box_.Checked());

@@ -28,7 +28,9 @@ class LabelWidget final : public QLabel, public NativeControl {
     void Apply(Property property, int) override {
         if (property == Property::Caption) {
             const QString shown = DisplayText(label_.Caption());
-            setText(buddy() == nullptr ? shown : EscapeAmpersands(shown));
+            const toolkit::Control* named = label_.Named();
+            // A label with a buddy takes "&" for an access key.
+            setText(named != nullptr ? MarkAccessKey(shown, named->Access()) : shown);
         }
     }
 

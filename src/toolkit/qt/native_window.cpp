@@ -10,8 +10,10 @@
 #include <QScreen>
 #include <algorithm>
 #include <cmath>
+#include <utility>
 #include <vector>
 
+#include "toolkit/qt/style.h"
 #include "toolkit/qt/text.h"
 
 namespace desktop {
@@ -144,10 +146,7 @@ void NativeWindow::NameControls() {
         const toolkit::ControlSpec& spec = control->Spec();
         QWidget& widget = Find(*control).Widget();
         if (spec.label != nullptr) {
-            NativeControl& label = Find(*spec.label);
-            static_cast<QLabel&>(label.Widget()).setBuddy(&widget);
-            // A label with a buddy takes "&" for an access key.
-            label.Apply(Property::Caption, -1);
+            static_cast<QLabel&>(Find(*spec.label).Widget()).setBuddy(&widget);
             widget.setAccessibleName(Decode(spec.label->Caption()));
         } else if (!spec.accessibleName.empty()) {
             widget.setAccessibleName(Decode(spec.accessibleName));
@@ -232,7 +231,19 @@ void NativeWindow::keyPressEvent(QKeyEvent* event) {
             window_.UserCloses();
         }
     } else {
+        UnderlineAccessKeys(event->key() == Qt::Key_Alt);
         QWidget::keyPressEvent(event);
+    }
+}
+
+void NativeWindow::keyReleaseEvent(QKeyEvent* event) {
+    UnderlineAccessKeys(false);
+    QWidget::keyReleaseEvent(event);
+}
+
+void NativeWindow::UnderlineAccessKeys(bool underlined) {
+    if (std::exchange(Style::underlinesAccessKeys, underlined) != underlined) {
+        update();
     }
 }
 
@@ -254,6 +265,8 @@ void NativeWindow::changeEvent(QEvent* event) {
     QWidget::changeEvent(event);
     if (event->type() == QEvent::FontChange) {
         PlaceControls();
+    } else if (event->type() == QEvent::ActivationChange) {
+        UnderlineAccessKeys(false);
     } else if (event->type() == QEvent::WindowStateChange && isMaximized()) {
         QMetaObject::invokeMethod(this, &QWidget::showNormal, Qt::QueuedConnection);
     }

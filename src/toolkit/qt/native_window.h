@@ -34,6 +34,7 @@ class NativeWindow final : public QWidget {
     void mouseMoveEvent(QMouseEvent* event) override;
     void enterEvent(QEnterEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void keyReleaseEvent(QKeyEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void hideEvent(QHideEvent* event) override;
     void changeEvent(QEvent* event) override;
@@ -45,6 +46,7 @@ class NativeWindow final : public QWidget {
     void PlaceControls();
     void SetTabOrder();
     void NameControls();
+    void UnderlineAccessKeys(bool underlined);
     bool PressButton(toolkit::Flag flag);
 
     toolkit::Window& window_;

@@ -205,6 +205,8 @@ int Style::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* 
         case SH_ComboBox_Popup:  // open the list below its field
         case SH_DialogButtonBox_ButtonsHaveIcons:
             return 0;
+        case SH_UnderlineShortcut:
+            return underlinesAccessKeys ? 1 : 0;
         default:
             return QProxyStyle::styleHint(hint, option, widget, returned);
     }

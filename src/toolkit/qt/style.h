@@ -7,6 +7,8 @@ namespace desktop {
 
 class Style final : public QProxyStyle {
   public:
+    inline static bool underlinesAccessKeys = false;  // while the Alt key is down
+
     Style() : QProxyStyle(QStringLiteral("fusion")) {}
 
     void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,

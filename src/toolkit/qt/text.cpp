@@ -50,6 +50,13 @@ std::string Encode(const QString& text) {
     return text.toStdString();
 }
 
+QString MarkAccessKey(const QString& caption, char letter) {
+    const qsizetype at = caption.indexOf(QLatin1Char(letter), 0, Qt::CaseInsensitive);
+    return at < 0 ? EscapeAmpersands(caption)
+                  : EscapeAmpersands(caption.first(at)) + QLatin1Char('&') +
+                        EscapeAmpersands(caption.sliced(at));
+}
+
 QString EscapeAmpersands(QString text) {
     return text.replace(QLatin1Char('&'), QLatin1String("&&"));
 }

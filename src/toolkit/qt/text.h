@@ -18,6 +18,10 @@ QString DisplayText(std::string_view text);
 /// Encodes a text as UTF-8.
 std::string Encode(const QString& text);
 
+/// The caption of a control for widgets that underline the letter after a single "&": its first
+/// `letter`, in either case.
+QString MarkAccessKey(const QString& caption, char letter);
+
 /// Doubles each "&", for widgets that take a single one for the mark of an access key.
 QString EscapeAmpersands(QString text);
 
