@@ -1,5 +1,7 @@
 // Texts, files and programs of Windows.
+#include <fcntl.h>
 #include <gtest/gtest.h>
+#include <io.h>
 
 #include "platform/files.h"
 #include "platform/shell.h"
@@ -43,6 +45,16 @@ TEST(WindowsFiles, KeepToTheirAttributes) {
     EXPECT_EQ(folder.Count(), 1);
     SetFileAttributesW(Wide(path).c_str(), FILE_ATTRIBUTE_NORMAL);
     EXPECT_FALSE(platform::File().Open("NUL", platform::File::Access::Read));
+}
+
+TEST(WindowsFiles, AReadErrorIsNotTheEnd) {
+    const TempFolder folder;
+    folder.Write("a.cfg", "text");
+    const platform::File file(_wopen(folder.Native("a.cfg").c_str(), _O_WRONLY));
+    char byte = 0;
+    std::size_t count = 1;
+    EXPECT_NE(file.ReadAt(0, &byte, 1, count).reason, "");
+    EXPECT_EQ(count, 0U);
 }
 
 /// The calls that MoveOver makes, each failing with an error of its own at first.
