@@ -6,7 +6,7 @@
 #include "toolkit/desktop.h"
 
 int main(int argumentCount, char** arguments) {
-    if (const std::optional<int> status = platform::InitialiseProcess(argumentCount, arguments)) {
+    if (const std::optional<int> status = platform::InitializeProcess(argumentCount, arguments)) {
         return *status;
     }
     desktop::StartDesktop();

@@ -20,8 +20,8 @@ std::uint32_t Hash(std::string_view key) {
 
 }  // namespace
 
-/// A hash table of places in the list of entries. The places in one bucket form a chain, the newest
-/// first, so that adding one reads no other: with a million keys each of those is a cache miss.
+/// A hash table of indexes into the entries. New links go to the head of their chain, so that
+/// adding one touches no other link, which would be a cache miss in a large map.
 struct ConfigMap::Index {
     struct Link {
         std::uint32_t hash;

@@ -15,8 +15,8 @@ struct ConfigEntry {
     ConfigValue value;
 };
 
-/// Keys are any texts, compared exactly, each of them once. A key keeps its place when its value is
-/// replaced. References that the map returns stay valid until a key is added or removed.
+/// Keys are unique, may be any text, and are compared byte by byte. A key keeps its place when its
+/// value is replaced. References that the map returns stay valid until a key is added or removed.
 /// Maps may be nested to any depth; a map must not contain itself.
 class ConfigMap {
   public:
@@ -46,7 +46,7 @@ class ConfigMap {
     std::int32_t Count() const { return static_cast<std::int32_t>(entries_.size()); }
     /// All keys with their values, in the map's order.
     const std::vector<ConfigEntry>& Entries() const { return entries_; }
-    /// A copy of all keys, of all values, in the map's order.
+    /// Copies of all keys, and of all values, in the map's order.
     std::vector<std::string> Keys() const;
     std::vector<ConfigValue> Items() const;
 

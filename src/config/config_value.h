@@ -45,12 +45,12 @@ class ConfigValue {
     std::string AsText() const;
     /// The number; the NumberValue of a text; a flag as 1 or 0.
     double AsNumber() const;
-    /// WholeNumber of AsNumber.
+    /// AsNumber, rounded by WholeNumber (number.h).
     std::int32_t AsWhole() const;
     /// The map itself, or null for every other kind.
     ConfigMapRef AsMap() const;
 
-    /// The value in the kind in which it was stored.
+    /// The stored value, not converted.
     const Kinds& Held() const { return held_; }
 
   private:

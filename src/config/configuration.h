@@ -41,8 +41,8 @@ class clsConfiguration {
     std::string OutputConfiguration(std::string_view newLine = "\r\n",
                                     bool whitespace = true) const;
 
-    /// The value of a key of the root, or `fallback` when the key is absent, which is not added. A
-    /// stored map is returned as a deep copy, or itself with `reference`.
+    /// The value of a key of the root. Returns `fallback`, and adds nothing, if the key is absent.
+    /// A stored map is returned as a deep copy, or itself with `reference`.
     ConfigValue ReadSetting(std::string_view setting, ConfigValue fallback = {},
                             bool reference = false) const;
 

@@ -6,7 +6,7 @@
 #include <string_view>
 
 /// The number that a text begins with, 0 when it begins with none. Spaces, TABs and LFs are
-/// ignored.
+/// ignored wherever they are.
 /// "&H" or "&O" (either case) starts a hexadecimal or octal whole number; anything else is an
 /// optional sign, digits with at most one dot, and an optional exponent after e, E, d or D. A
 /// number too large for a double becomes the largest finite one of its sign.

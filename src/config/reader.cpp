@@ -12,8 +12,7 @@
 
 namespace {
 
-/// What the reader asks of a character. One look-up in a table answers, because this is asked for
-/// every character of a document.
+/// Character classes. They are kept in a table because every character of a document is tested.
 enum CharacterClass : unsigned char { Space = 1, EndsKey = 2, EndsPlainText = 4, StartsValue = 8 };
 
 constexpr auto ClassesOf = [] {
@@ -166,8 +165,9 @@ void Reader::ReadNumber() {
     Store(single ? ConfigValue(SingleNumber(number)) : ConfigValue(number));
 }
 
-/// The closing quote stores the value and clears the key; text after it is ignored up to the next
-/// ";". So a ";" ends the string only while the key is empty.
+/// The closing quote stores the value and clears the key. Reading continues up to the next ";";
+/// each further quote stores the text since the last one under the empty key. So a ";" ends the
+/// string only when the key is empty.
 void Reader::ReadString() {
     complete_ = false;
     while (at_ != end_) {
@@ -197,8 +197,8 @@ void Reader::ReadString() {
     }
 }
 
-/// An escape is a letter, any other character for itself, or exactly three characters from a digit
-/// on, which are read as a number.
+/// After a backslash: n, r and t are LF, CR and TAB; three characters starting with a digit are a
+/// character code; any other character stands for itself.
 void Reader::ReadEscape() {
     at_ = SkipIgnored(at_);
     if (at_ == end_) {

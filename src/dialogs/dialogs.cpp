@@ -8,8 +8,8 @@
 
 namespace {
 
-// Longest results in characters. The callers' buffers of 258 and 260 characters include two final
-// NULs and one.
+// Longest accepted results, in bytes: what fits into the buffers of 258 and 260 bytes that Windows
+// programs customarily pass, without the final NULs.
 constexpr std::size_t LongestFileResult = 256;
 constexpr std::size_t LongestFolder = 259;
 

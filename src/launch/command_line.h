@@ -19,7 +19,7 @@ std::string WarpArguments(std::string_view mapName);
 /// count.
 std::string RemoveExtension(const std::string& fileName);
 
-/// Returns the short command line of Launch. The path of the game WAD is not quoted.
+/// Returns the command line of the Launch button: the engine's switches and the game WAD, unquoted.
 std::string LaunchCommandLine(int engine, const std::string& gameWad);
 
 /// What the command line of a Quick Start depends on, besides the file list.
@@ -37,6 +37,5 @@ struct QuickStart {
 };
 
 /// Returns the full command line of a Quick Start, with each of `files` in double quotes. Some
-/// spaces in it are doubled and one is last: engines ignore them, and they are kept for
-/// compatibility.
+/// spaces are doubled, and without `parameters` the last character is a space; engines ignore both.
 std::string QuickStartCommandLine(const QuickStart& start, const clsStringArray& files);

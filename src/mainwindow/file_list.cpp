@@ -56,7 +56,7 @@ void MainWindow::FillFileList() {
     if (lstFiles.ListCount() > 0) {
         lstFiles.SetListIndex(0);
     }
-    for (const std::string& reason : platform::RefusedArguments()) {
+    for (const std::string& reason : platform::RefusalReasons()) {
         Warn(reason);
     }
 }
@@ -129,8 +129,8 @@ void MainWindow::FileListReleased(toolkit::MouseButton button, double x, double 
     mnuFileList.PopUp(*this);
 }
 
-/// Path of the text file that belongs to an entry: the entry's path up to its first dot, with
-/// ".txt". Dots in folder names count. Empty for an entry without any dot.
+/// Path of an entry's text file: the entry's path in lower case up to its first dot, with ".txt".
+/// Dots in folder names count. Empty for an entry without any dot.
 std::string MainWindow::TextFileName(int index) const {
     const std::string path = LowerCase(FileList.Item(index));
     const std::size_t dot = path.find('.');

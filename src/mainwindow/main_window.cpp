@@ -97,7 +97,7 @@ void MainWindow::ShowSettings() {
     if (cmbEngines.ListIndex() < 0) {
         return;
     }
-    frmEngineSettings.PassEngine(cmbEngines.ListIndex());
+    frmEngineSettings.ShowEngine(cmbEngines.ListIndex());
     frmEngineSettings.ShowModal();
 }
 

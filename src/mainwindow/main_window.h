@@ -17,7 +17,7 @@ class MainWindow : public toolkit::Window {
 
     /// Fills the lists of engines and games again and restores their selection from the settings.
     void SetupLists();
-    /// Shows FileList, which files on the program's own command line replace first.
+    /// Shows FileList. If the program's command line names files, they first replace its content.
     void FillFileList();
 
     // clang-format off

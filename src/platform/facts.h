@@ -1,4 +1,4 @@
-// Facts about this process.
+// Start-up, end and properties of this process.
 #pragma once
 
 #include <optional>
@@ -13,11 +13,10 @@ struct VersionNumbers {
     int revision = 0;
 };
 
-/// Prepares the process; `main` calls it first. Keeps the arguments for OwnCommandLine. On Linux,
-/// returns the exit status if they were an option (`--help`, `--version`), after printing its
-/// answer, or an unknown one. On Windows, DLLs are loaded from the system's folder only from then
-/// on.
-[[nodiscard]] std::optional<int> InitialiseProcess(int argumentCount, char** arguments);
+/// Call first in `main`. Keeps the arguments for OwnCommandLine. On Linux, prints the output of
+/// `--help` and `--version`, or an error for an unknown option, and returns the exit status. On
+/// Windows, restricts later DLL loads to the System32 folder.
+[[nodiscard]] std::optional<int> InitializeProcess(int argumentCount, char** arguments);
 
 /// Folder of the running executable (links followed), a Windows path without a final backslash.
 std::string ProgramDirectory();
@@ -25,14 +24,14 @@ std::string ProgramDirectory();
 /// The executable's own version.
 VersionNumbers ProgramVersion();
 
-/// The arguments of the command line, separated by single spaces. An argument that names an
-/// existing file is a full Windows path in double quotes. On Linux all other arguments are quoted
-/// too, without RefusedArguments; on Windows they are as they were typed.
+/// The command-line arguments, separated by single spaces. On Windows, an argument that names an
+/// existing file becomes a full path in double quotes and others are unchanged. On Linux, every
+/// argument becomes a full Windows path in double quotes, and refused ones are left out.
 std::string OwnCommandLine();
 
 /// The reason for each file on the command line that Zorvane cannot use (see CheckNativeName in
 /// files.h).
-std::vector<std::string> RefusedArguments();
+std::vector<std::string> RefusalReasons();
 
 /// Ends the process at once, whatever is still open.
 [[noreturn]] void EndProcess();

@@ -16,8 +16,8 @@
 namespace platform {
 
 /// An open file of raw bytes, addressed by absolute positions from 0. Closes the file when it is
-/// destroyed. Opens regular files only: a folder, a pipe or a device is a failure at once. Other
-/// programs may use the file meanwhile.
+/// destroyed. Opening anything but a regular file (a folder, a pipe, a device) fails without
+/// waiting. Other programs may use the file meanwhile.
 class File {
   public:
     enum class Access {
@@ -69,15 +69,14 @@ bool IsOrdinaryFile(const std::string& path);
 /// Whether the path names anything: a file of any kind, hidden or not, or a folder.
 bool Exists(const std::string& path);
 
-/// Returns the bare name of the ordinary file that `path` names, as the disk spells it. Returns an
-/// empty text if there is none, and nothing if the text cannot be a file name, such as a URL. The
-/// result is as long as the bare name in `path`: if `foo.exe` is missing and `foo` exists, returns
-/// `foo.exe`.
+/// Returns the bare name of the ordinary file at `path`, spelled as on the disk; an empty text if
+/// there is none; nothing if `path` is a URL. A name of another length (`foo` found for `foo.exe`)
+/// is returned as it was asked for, so that callers can cut it off `path`.
 std::optional<std::string> LookUpFileName(const std::string& path);
 
-/// Whether Zorvane can use a file of this native path; the reason of a failure names it. On Linux
-/// it cannot if the path contains a double quote, which would end it on a command line, or a
-/// backslash, which would separate folders.
+/// Fails, with a message that contains the path, if the path has a character that Zorvane cannot
+/// handle: on Linux a double quote (it would end the argument on a command line) or a backslash (it
+/// would separate folders).
 Outcome CheckNativeName(std::string_view path);
 
 /// Bare names of the ordinary files in `directory` that match `pattern` (`*` and `?`, in any case),

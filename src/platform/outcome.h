@@ -1,11 +1,11 @@
-// How an operation of the system ended.
+// The result of an operation that can fail.
 #pragma once
 
 #include <string>
 
 namespace platform {
 
-/// Success, or a failure with its reason in the operating system's words.
+/// Success, or a failure with a reason to show to the user.
 struct [[nodiscard]] Outcome {
     bool ok = true;
     std::string reason;

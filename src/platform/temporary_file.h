@@ -25,7 +25,7 @@ class TemporaryFile {
     /// Flushes it and renames it over the target, whose permissions it takes over. Then deletes the
     /// temporary files that killed runs left in that folder.
     Outcome Commit();
-    /// Whether `file` is open on the target.
+    /// Whether `file` is the file that Commit would replace.
     bool Replaces(const File& file) const;
 
   private:
@@ -41,8 +41,9 @@ std::string TemporaryName();
 /// Whether a file name is a TemporaryName of a process that has ended.
 bool IsAbandoned(std::string_view name);
 
-/// Process ids; IsRunning is true if the system does not say.
+/// The id of this process.
 std::uint32_t ProcessId();
+/// Whether a process is running; true if that cannot be determined.
 bool IsRunning(std::uint32_t processId);
 
 }  // namespace platform

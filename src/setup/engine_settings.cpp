@@ -46,7 +46,7 @@ EngineSettingsWindow::EngineSettingsWindow()
     OnCloseRequest = [this] { Hide(); };
 }
 
-void EngineSettingsWindow::PassEngine(int engineNum) {
+void EngineSettingsWindow::ShowEngine(int engineNum) {
     engineNum_ = engineNum;
     SetCaption("Engine settings of " + EngineAt(engineNum).realname);
     ShowEngineOptions();

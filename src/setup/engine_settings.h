@@ -14,7 +14,7 @@ class EngineSettingsWindow : public toolkit::Window {
     EngineSettingsWindow();
 
     /// Fills the window for the engine at an index of Engines. The caller shows it.
-    void PassEngine(int engineNum);
+    void ShowEngine(int engineNum);
 
     // clang-format off
     toolkit::Frame Frame1{*this, {.caption = "Options", .place = {9, 8, 340, 122}, .tab = 18}};

@@ -120,7 +120,7 @@ void SetupWindow::ShowEngineSettings() {
     if (lvwEngines.SelectedRow() < 1) {
         return;
     }
-    frmEngineSettings.PassEngine(lvwEngines.SelectedRow() - 1);
+    frmEngineSettings.ShowEngine(lvwEngines.SelectedRow() - 1);
     frmEngineSettings.ShowModal();
 }
 

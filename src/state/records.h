@@ -1,4 +1,4 @@
-// The records that every module shares, and the one copy of each.
+// The shared data types, and the global variables of these types.
 #pragma once
 
 #include <array>
@@ -45,8 +45,8 @@ struct GameWadRecord {
     std::string file;  // full path
 };
 
-/// All engines, in the order of every list of engines: an index is a row number. Only `path` and
-/// `options` change after the start. An index of GameWads is a row number as well.
+/// All engines and game WADs, in the order in which they are listed. An index is a row of the combo
+/// boxes; list views count from 1. Of the engines only `path` and `options` change after the start.
 extern std::vector<EngineRecord> Engines;
 extern std::vector<GameWadRecord> GameWads;
 /// Whether an engine file could not be read. The settings of engines that are not in Engines are

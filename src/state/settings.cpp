@@ -17,7 +17,7 @@ constexpr const char* SettingsFileMark = "Zorvane Configuration file";
 
 /// The settings file as this run last read or wrote it.
 std::string knownFile;
-/// Whether knownFile lacks a part, so that a save would lose the rest of it.
+/// Whether knownFile was incomplete or lacked a list, so that saving would lose what was not read.
 bool isDamaged = false;
 
 std::string DamagedFileName() {
@@ -96,7 +96,7 @@ void StoreLists() {
     for (const EngineRecord& engine : Engines) {
         const std::string key = EngineKey(engine.realname);
         if (!KeyCanBeReadBack(key)) {
-            continue;  // in the file, it would change the settings after it
+            continue;  // such a key would corrupt the settings after it
         }
         const ConfigMapRef entry = std::make_shared<ConfigMap>();
         entry->Add("path", engine.path);
@@ -112,7 +112,7 @@ void StoreLists() {
 
 }  // namespace
 
-void InitialiseSettings() {
+void InitializeSettings() {
     // In the order of a new file. Numbers have 16 bits, as the controls store them.
     constexpr std::int16_t None = NoSelection;
     constexpr std::int16_t ThirdSkill = 2;

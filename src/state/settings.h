@@ -29,7 +29,7 @@
 #include "toolkit/window.h"
 
 /// Replaces Settings by the defaults and sets SettingsFileName.
-void InitialiseSettings();
+void InitializeSettings();
 
 /// Reads the settings file into Settings, GameWads, FileList and the paths and options of Engines.
 /// Shows a message and returns false if the file cannot be read or is of another type; the file
@@ -52,7 +52,7 @@ std::string OptionsToString(const EngineOptions& options);
 void OptionsFromString(std::string_view text, EngineOptions& options);
 
 /// The value of a setting, rounded to a whole number (0 for a text that is no number) or as text.
-/// Enters an absent key without a value.
+/// Adds an absent key with no value.
 std::int32_t SettingNumber(std::string_view key);
 std::string SettingText(std::string_view key);
 /// Replaces the value of a setting. A number is stored as a 16-bit one.

@@ -40,7 +40,7 @@ bool PrepareSettings() {
 void Main() {
     shuttingDown = false;
     const std::string directory = platform::ProgramDirectory();
-    InitialiseSettings();
+    InitializeSettings();
     // The engines come first: loading the settings fills in their paths and options.
     settingsLoaded = ScanEngineFiles(JoinPath(directory, "engines")) && PrepareSettings();
     if (!settingsLoaded) {
@@ -60,7 +60,7 @@ void Main() {
 }
 
 void ShutDown() {
-    // Unloading the main window may raise its close request, which calls this again.
+    // A close request may arrive while the message about unsaved settings is shown.
     if (shuttingDown) {
         return;
     }

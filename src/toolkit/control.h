@@ -39,19 +39,19 @@ struct Place {
 enum Flag : unsigned {
     Default = 1U << 0,  // button: the Enter key presses it
     Cancel = 1U << 1,   // button: the Escape key presses it
-    Accent = 1U << 2,   // button: in the colour of the program
+    Accent = 1U << 2,   // button: in the color of the program
     Bold = 1U << 3,     // label: in bold type
     Title = 1U << 4,    // label: in large bold type on the title band
     Small = 1U << 5,    // label: in small type on the title band, right-aligned
     Link = 1U << 6,     // label: looks like a link and can be clicked
     Sunken = 1U << 7,   // label: with a border, its text wrapped
-    Quiet = 1U << 8,    // label: in a weaker colour
+    Quiet = 1U << 8,    // label: in a weaker color
     IsPath = 1U << 9,   // text box: holds a path, which is shown in the system's notation
     Follows =
         1U << 10,  // label: as wide as its text, directly after the text of the control before
 };
 
-/// The declaration of one control: everything that there is to say about it.
+/// The fixed properties of a control, given when it is declared.
 struct ControlSpec {
     std::string_view caption = {};  // list view: the heads of its two columns, separated by "|"
     Place place = {};
@@ -60,15 +60,15 @@ struct ControlSpec {
     unsigned flags = 0;                    // a combination of Flag
     std::string_view key = {};             // settings key that keeps the control's value
     const Control* label = nullptr;        // label that names the control to a screen reader
-    std::string_view picture = {};         // name of a picture of ours
+    std::string_view picture = {};         // name of a built-in picture
     std::string_view accessibleName = {};  // for a control that has neither caption nor label
     /// Line for Window::OnTip while the pointer is over the control. Without one the event is not
     /// raised.
     std::optional<std::string_view> tip = {};
 };
 
-/// A control holds all of its state that the program asks for, and its events. A setter is a no-op
-/// if nothing changes (except ComboBox::SetText); otherwise it notifies the back end.
+/// Holds a control's state and event handlers. A setter notifies the back end if it changes the
+/// state; otherwise it does nothing (except ComboBox::SetText).
 class Control {
   public:
     Control(const Control&) = delete;
@@ -105,11 +105,12 @@ class Control {
     Control(Window& window, Kind kind, const ControlSpec& spec);
     virtual ~Control() = default;
 
-    /// Notifies the back end; `row` belongs to the item properties.
+    /// Notifies the back end. `row` is the row of ItemAdded and ItemRemoved.
     void Changed(desktop::Property property, int row = -1);
     /// Resets the control to its declaration, without an event.
     virtual void Reset();
-    /// Sets the control to the value stored under its key. Only controls with a value have one.
+    /// Sets the control to the value stored under its key. Does nothing for a control without a
+    /// value.
     virtual void RestoreValue() {}
 
     /// Keeps a new value under the control's key, if it has one.
@@ -168,7 +169,7 @@ class CheckBox : public Control {
   public:
     CheckBox(Window& window, const ControlSpec& spec) : Control(window, Kind::CheckBox, spec) {}
     bool Checked() const { return checked_; }
-    /// A new state is stored and runs OnClick.
+    /// If the state changes, stores it under the key and runs OnClick.
     void SetChecked(bool checked);
     void UserChecks(bool checked) { SetChecked(checked); }
     std::function<void()> OnClick;
@@ -186,7 +187,7 @@ class TextBox : public Control {
   public:
     TextBox(Window& window, const ControlSpec& spec) : Control(window, Kind::TextBox, spec) {}
     const std::string& Text() const { return text_; }
-    /// A new text is stored and runs OnChange.
+    /// If the text changes, stores it under the key and runs OnChange.
     void SetText(std::string text);
     void UserTypes(std::string text);
     std::function<void()> OnChange;

@@ -33,7 +33,7 @@ enum class Property {
     Focus,  // the control is to take the keyboard focus
 };
 
-/// Initialises the windowing system; called before the first window is loaded.
+/// Initializes the windowing system; called before the first window is loaded.
 void StartDesktop();
 /// Handles the events that are pending, and returns.
 void DoEvents();

@@ -24,7 +24,7 @@ void ItemControl::UserSelects(int row) {
     if (row != index_) {
         SetListIndex(row);
     } else if (row >= 0) {
-        // A back end may show another row or text by now: it is set to this one again.
+        // The native control may show another row or text by now, so apply this one again.
         MoveTo(row);
         ReportChange();
     }

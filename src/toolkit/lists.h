@@ -11,8 +11,8 @@ namespace toolkit {
 
 /// A list of texts of which at most one is selected; rows count from 0, and -1 is no selection.
 ///
-/// A new index is stored and runs OnClick immediately, also when code sets it. An index outside the
-/// list selects nothing: the index becomes -1, nothing is stored and no handler runs.
+/// Setting another index, -1 included, stores it and runs OnClick at once, also from code. Any
+/// other index outside the list sets -1 without storing it or running OnClick.
 class ItemControl : public Control {
   public:
     int ListCount() const { return static_cast<int>(items_.size()); }

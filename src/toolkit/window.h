@@ -20,7 +20,7 @@ struct ValueStore {
     void (*storeText)(std::string_view key, const std::string& text);
 };
 
-/// One window: everything but its controls. Its size is fixed.
+/// The fixed properties of a window. Its size cannot change.
 struct WindowSpec {
     std::string_view caption = {};
     int width = 0;                       // in dialog units, without the frame
@@ -37,8 +37,8 @@ class Window {
     Window& operator=(const Window&) = delete;
     ~Window() = default;
 
-    /// Resets the window and its controls to their declarations, creates the native window, hidden,
-    /// and runs OnLoad.
+    /// Resets the window and its controls to their declarations, registers the window with the back
+    /// end, hidden, and runs OnLoad. Does nothing if it is loaded.
     void Load();
     /// Destroys the native window. No-op for a window that is not loaded.
     void Unload();
@@ -72,7 +72,8 @@ class Window {
     std::function<void()> OnShowModal;
     /// The user asked to close the window. The window stays: what happens is up to the handler.
     std::function<void()> OnCloseRequest;
-    /// The pointer moved over a control with a tip, or over the window itself: then it is empty.
+    /// The pointer moved over a control with a tip, or over the window itself; `tip` is empty for
+    /// the window.
     std::function<void(std::string_view tip)> OnTip;
 
   private:

@@ -21,8 +21,8 @@ struct WadLumpEntry {
     LumpNameField name{};
 };
 
-/// Entries past the end of the file count, but take no memory: they have no name, no bytes and the
-/// position 0. So does an entry at an index that does not exist.
+/// Entries past the end of the file are counted but not stored: like an index out of range, they
+/// read as an entry without name and bytes at position 0.
 class WadDirectory {
   public:
     static constexpr std::size_t EntryBytes = 16;

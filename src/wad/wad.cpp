@@ -10,7 +10,7 @@
 
 namespace {
 
-// A directory of 64 MiB: far more than any game has, and no file can claim all memory.
+// Limits the directory to 64 MiB, so that a damaged header cannot exhaust the memory.
 constexpr std::int32_t MaxLumps = 1 << 22;
 
 std::int32_t Clamped(std::int64_t number) {

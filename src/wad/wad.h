@@ -27,11 +27,13 @@ class clsWad {
     void OpenWad(std::string fileName);
 
     /// Starts a WAD with a header that says that there is no directory yet. An existing file is
-    /// overwritten and not truncated. `wadType` is converted to upper case; unless it has 4
-    /// characters nothing else changes. On any other failure the instance has no file.
+    /// overwritten and not truncated. Fails, and changes nothing, unless `wadType` has 4
+    /// characters; otherwise converts it to upper case. On any other failure the instance has no
+    /// file.
     [[nodiscard]] platform::Outcome CreateWad(std::string fileName, std::string& wadType);
     /// Writes a lump after the others; in an opened WAD, over its directory. The name is converted
-    /// to upper case and cut to 8 characters. A failure adds nothing. Lumps end below 2 GiB.
+    /// to upper case and cut to 8 characters. Fails, and adds nothing, if the lump would end at or
+    /// above 2 GiB.
     [[nodiscard]] platform::Outcome AddLump(std::string_view lumpName, std::string_view lumpData);
     /// Writes the directory after the lumps, then the header. Nothing is truncated. Must be called
     /// again if more lumps are added.

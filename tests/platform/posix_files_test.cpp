@@ -84,14 +84,13 @@ TEST(PosixFacts, OwnArgumentsAreFullPathsInQuotes) {
     };
     folder.Write("c\\d.wad", "");
     for (auto [arguments, text] : rows) {
-        EXPECT_EQ(platform::InitialiseProcess(static_cast<int>(arguments.size()),
+        EXPECT_EQ(platform::InitializeProcess(static_cast<int>(arguments.size()),
                                               const_cast<char**>(arguments.data())),
                   std::nullopt);
         EXPECT_EQ(platform::OwnCommandLine(), text);
     }
-    EXPECT_EQ(platform::RefusedArguments(),
-              (Strings{platform::CheckNativeName("a\"b").reason,
-                       platform::CheckNativeName("c\\d.wad").reason}));
+    EXPECT_EQ(platform::RefusalReasons(), (Strings{platform::CheckNativeName("a\"b").reason,
+                                                   platform::CheckNativeName("c\\d.wad").reason}));
     fs::current_path(before);
 }
 

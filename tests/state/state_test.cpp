@@ -171,7 +171,7 @@ TEST_F(State, QuotedPathsOfTheCommandLineReplaceTheFileList) {
         ASSERT_TRUE(Start());
         EXPECT_EQ(driver::ShownItems(frmMain.lstFiles), files) << "as saved";
     }
-    machine.refusedArguments = {"reason"};
+    machine.refusalReasons = {"reason"};
     ASSERT_TRUE(Start());
     EXPECT_EQ(TakeMessage(), "reason");
 }

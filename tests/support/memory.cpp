@@ -51,8 +51,8 @@ VersionNumbers ProgramVersion() {
 std::string OwnCommandLine() {
     return machine.commandLine;
 }
-std::vector<std::string> RefusedArguments() {
-    return machine.refusedArguments;
+std::vector<std::string> RefusalReasons() {
+    return machine.refusalReasons;
 }
 void EndProcess() {
     throw memory::ProcessEnded();

@@ -37,7 +37,7 @@ struct StartedProgram {
 struct Machine {
     std::string programDirectory;
     std::string commandLine;
-    std::vector<std::string> refusedArguments;
+    std::vector<std::string> refusalReasons;
     std::deque<Message> messages;             // that were shown
     int repaints = 0;                         // that were asked for
     std::deque<std::string> files;            // chosen in file dialogs, empty for Cancel

@@ -1,4 +1,4 @@
-// File descriptors and what every file operation does with them.
+// Owned file descriptors, and opening, reading and writing through them.
 #pragma once
 
 #include <cstddef>
@@ -35,8 +35,8 @@ class Descriptor {
     int number_;
 };
 
-/// Opens a regular file with the flags of `open`, close-on-exec. Anything else is a failure at
-/// once.
+/// Opens a regular file, close-on-exec, with the given `open` flags. Fails, without waiting, for
+/// any other kind of file.
 Outcome OpenRegularFile(const std::string& path, int flags, Descriptor& descriptor);
 
 /// Reads `size` bytes, or fewer at the end of the file; `count` is the number read. Continues after

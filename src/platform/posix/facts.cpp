@@ -66,7 +66,7 @@ bool IsRefused(const std::string& argument) {
 
 }  // namespace
 
-std::optional<int> InitialiseProcess(int argumentCount, char** arguments) {
+std::optional<int> InitializeProcess(int argumentCount, char** arguments) {
     ownArguments.clear();
     bool optionsEnded = false;
     for (int i = 1; i < argumentCount; ++i) {
@@ -101,7 +101,7 @@ std::string OwnCommandLine() {
     return text;
 }
 
-std::vector<std::string> RefusedArguments() {
+std::vector<std::string> RefusalReasons() {
     std::vector<std::string> reasons;
     for (const std::string& argument : ownArguments) {
         if (IsRefused(argument)) {

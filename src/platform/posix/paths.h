@@ -1,5 +1,5 @@
-// Conversion between Zorvane's paths (Windows paths, with the file tree as drive Z:) and native
-// ones. In a native path that comes in, only backslashes change.
+// Converts between Zorvane's Windows paths, in which the file tree is drive Z:, and native paths. A
+// native path is accepted too: its backslashes become slashes.
 #pragma once
 
 #include <optional>
@@ -21,7 +21,7 @@ std::optional<std::string> NativePath(std::string_view path);
 /// A link exists, wherever it leads.
 std::optional<std::string> FindPath(std::string_view path);
 
-/// The listings of folders that look-ups needed, so that several of them list each folder once.
+/// A cache of folder listings, so that repeated look-ups list each folder once.
 class FolderNames {
   public:
     /// The first name in the folder that equals `name` but for case, null if there is none.

@@ -16,9 +16,9 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// Replaces a path by that of the file at the end of its links, which need not exist.
+/// Resolves the symbolic links of a path. The target may be missing.
 Outcome FollowLinks(std::string& path) {
-    // The system follows them, so that its protection of links in shared folders holds.
+    // Let the kernel resolve the links, so that its restrictions on links in shared folders apply.
     const Descriptor file(open(path.c_str(), O_PATH | O_CLOEXEC));
     std::error_code error;
     if (file.Number() >= 0) {
@@ -28,8 +28,9 @@ Outcome FollowLinks(std::string& path) {
     if (errno != ENOENT) {
         return Failure(errno);
     }
-    // The last link leads to a missing file. The system has found no loop.
-    constexpr int LongestChain = 40;  // as in the kernel, should a link change meanwhile
+    // The last link points to a missing file; a loop would have failed with ELOOP.
+    constexpr int LongestChain =
+        40;  // the kernel's limit; ends a loop made by a link that changes meanwhile
     for (int link = 0; link < LongestChain && fs::is_symlink(path, error); ++link) {
         path = fs::path(path).replace_filename(fs::read_symlink(path, error));
     }
@@ -131,7 +132,8 @@ Outcome TemporaryFile::Commit() {
     }
     name_.clear();
     const fs::path folder = fs::path(target_).parent_path();
-    // The rename has happened: not every file system can flush a folder.
+    // Flush the folder too. Failure is ignored: some file systems cannot, and the rename has
+    // already succeeded.
     const Descriptor opened(open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
     fsync(opened.Number());
     RemoveAbandonedFiles(folder);

@@ -1,11 +1,11 @@
-// COM, which the services of the shell need.
+// Initialization of COM, which some shell functions need.
 #pragma once
 
 #include "platform/win32/late.h"
 
 namespace platform {
 
-/// Initialises COM on this thread for the lifetime of the object. It may be initialised already.
+/// Initializes COM on this thread for the lifetime of the object. It may be initialized already.
 class ComApartment {
   public:
     ComApartment() : result_(LATE(ole32, CoInitializeEx)(nullptr, COINIT_APARTMENTTHREADED)) {}

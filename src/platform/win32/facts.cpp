@@ -40,7 +40,7 @@ std::string QuotedIfFile(const std::wstring& argument) {
 }  // namespace
 
 // Windows keeps the command line itself.
-std::optional<int> InitialiseProcess(int /*argumentCount*/, char** /*arguments*/) {
+std::optional<int> InitializeProcess(int /*argumentCount*/, char** /*arguments*/) {
     ::SetDefaultDllDirectories(LOAD_LIBRARY_SEARCH_SYSTEM32);
     return std::nullopt;
 }
@@ -87,7 +87,7 @@ std::string OwnCommandLine() {
     }
 }
 
-std::vector<std::string> RefusedArguments() {
+std::vector<std::string> RefusalReasons() {
     return {};
 }
 

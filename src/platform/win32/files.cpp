@@ -25,7 +25,7 @@ DWORD Piece(std::size_t size) {
 }  // namespace
 
 HANDLE NativeHandle(const File& file) {
-    // The C runtime ends the program that asks it about -1.
+    // _get_osfhandle(-1) would terminate the program.
     return file.IsOpen() ? reinterpret_cast<HANDLE>(_get_osfhandle(file.Handle()))
                          : INVALID_HANDLE_VALUE;
 }

@@ -19,7 +19,7 @@ struct Releaser {
 template <typename Handle, auto Release>
 using Owned = std::unique_ptr<std::remove_pointer_t<Handle>, Releaser<Release>>;
 
-/// A kernel handle that may be INVALID_HANDLE_VALUE, which counts as none.
+/// Closes a kernel handle unless it is INVALID_HANDLE_VALUE.
 inline void CloseValidHandle(HANDLE handle) {
     if (handle != INVALID_HANDLE_VALUE) {
         ::CloseHandle(handle);

@@ -8,16 +8,16 @@
 
 namespace platform {
 
-/// The services that MoveOver calls. Tests pass failing ones.
+/// The Windows functions that MoveOver calls, so that tests can make them fail.
 struct ReplaceCalls {
     decltype(&::ReplaceFileW) replace = ::ReplaceFileW;
     decltype(&::MoveFileExW) move = ::MoveFileExW;
     decltype(&::Sleep) sleep = ::Sleep;
 };
 
-/// Renames a file over `target`, whose attributes and permissions it takes over, or which does not
-/// exist. For about two seconds it tries again while another program uses one of the files. Never
-/// deletes `name`.
+/// Renames a file to `target`, replacing an existing one and keeping its attributes and
+/// permissions. Retries for about two seconds while another program uses either file. Never deletes
+/// `name`.
 Outcome MoveOver(const std::wstring& name, const std::wstring& target,
                  const ReplaceCalls& calls = {});
 

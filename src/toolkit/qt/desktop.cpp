@@ -63,7 +63,7 @@ void UnloadWindow(toolkit::Window& window) {
 
 void ShowWindow(toolkit::Window& window) {
     if (NativeWindow* native = EnsureNative(window)) {
-        native->Centre(nullptr);
+        native->Center(nullptr);
         native->show();
     }
 }
@@ -85,7 +85,7 @@ void RunModal(toolkit::Window& window) {
     if (opener != nullptr) {
         native->windowHandle()->setTransientParent(opener->windowHandle());
     }
-    native->Centre(opener);
+    native->Center(opener);
     native->show();
     native->activateWindow();
     if (window.Visible()) {

@@ -8,7 +8,7 @@
 
 namespace desktop {
 
-/// The widget of a control, as its window sees it. Its parent owns the widget.
+/// Connects a control with its widget. The parent widget owns the widget.
 class NativeControl {
   public:
     NativeControl() = default;
@@ -19,15 +19,15 @@ class NativeControl {
     virtual QWidget& Widget() = 0;
     /// The part of it that receives mouse events.
     virtual QWidget& Surface() { return Widget(); }
-    /// Draws a property that only this kind of control has: caption, text, state, selection, items.
-    /// Raises no event.
+    /// Updates the widget for a changed property that only this kind of control has. Raises no
+    /// event.
     virtual void Apply(Property property, int row) = 0;
 };
 
 /// Creates the widget of a control, with the control's current state.
 NativeControl* MakeControl(toolkit::Control& control, QWidget& parent);
 
-/// Draws any property.
+/// Updates the widget for any changed property.
 void ApplyProperty(NativeControl& native, const toolkit::Control& control, Property property,
                    int row);
 

@@ -111,7 +111,7 @@ void NativeWindow::PlaceControls() {
         QWidget& widget = Find(*control).Widget();
         QRect place = InPixels(control->Spec().place, unit);
         if (control->Has(toolkit::Follows) && before != nullptr) {
-            // Texts of other controls are not measured: that takes much of the start.
+            // Measure only these labels: measuring all texts would slow down the start.
             place.moveLeft(before->x() + before->sizeHint().width());
             place.setWidth(widget.sizeHint().width());
         }
@@ -154,7 +154,7 @@ void NativeWindow::NameControls() {
     }
 }
 
-void NativeWindow::Centre(const QWidget* owner) {
+void NativeWindow::Center(const QWidget* owner) {
     const QScreen* where = owner != nullptr ? owner->screen() : QGuiApplication::primaryScreen();
     if (where != nullptr) {
         const QRect area = where->availableGeometry();

@@ -19,7 +19,7 @@ class NativeWindow final : public QWidget {
     /// The widget of one of its controls.
     NativeControl& Find(const toolkit::Control& control) const { return *natives_.at(&control); }
     /// Centers the window on the screen of `owner`, or on the primary screen if it is null.
-    void Centre(const QWidget* owner);
+    void Center(const QWidget* owner);
     /// Handles events until the window is hidden.
     void RunUntilHidden();
     /// Ignores Escape until the event loop runs again. On Wayland, Qt sends the Escape that closes

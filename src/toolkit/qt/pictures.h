@@ -1,5 +1,5 @@
-// The pictures of the program, by the names that controls are declared with. They are drawn from
-// paths, so they are sharp at every size; art/ has the same shapes as SVG, for the Windows program.
+// The program's pictures, by the names in control declarations. All but the icon are drawn from
+// paths, so that they are sharp at any size; art/ has the same shapes as SVG for Windows.
 #pragma once
 
 #include <QPixmap>

@@ -11,7 +11,7 @@ namespace desktop {
 namespace {
 
 constexpr double CornerRadius = 4;
-/// Additional space to the left of the text in a field, in pixels.
+/// Additional space to the left of the text in a combo box, in pixels.
 constexpr int TextInset = 4;
 
 /// Draws a rounded surface with its outline inside `rect`.
@@ -36,7 +36,7 @@ QColor Outline(const QStyleOption& option) {
                                                       option.palette.color(QPalette::Window), 0.5);
 }
 
-/// Lighter under the pointer, darker while pressed.
+/// Tinted with the highlight color under the pointer, and with the outline color while pressed.
 QColor ButtonFill(const QStyleOption& option) {
     const QColor button = option.palette.color(QPalette::Button);
     if (!Has(option, QStyle::State_Enabled)) {

@@ -92,7 +92,7 @@ class NativeEditCombo : public NativeCombo {
   protected:
     void OnCommand(WORD code) override {
         if (code == CBN_EDITCHANGE) {
-            box_.UserTypes(NativeText());
+            box_.UserTypes(WindowText());
         } else {
             NativeCombo::OnCommand(code);
         }

@@ -24,7 +24,7 @@ void UnloadWindow(toolkit::Window& window) {
 
 void ShowWindow(toolkit::Window& window) {
     if (NativeWindow* native = EnsureNative(window)) {
-        native->Centre();
+        native->Center();
         PushWindow(*native);
         ::ShowWindow(native->Handle(), SW_SHOWNORMAL);
         ::UpdateWindow(native->Handle());
@@ -49,7 +49,7 @@ void RunModal(toolkit::Window& window) {
     }
     const HWND owner = FrontWindow();
     ::SetWindowLongPtrW(native->Handle(), GWLP_HWNDPARENT, reinterpret_cast<LONG_PTR>(owner));
-    native->Centre();
+    native->Center();
     native->ResetFocus();
     ::EnableWindow(owner, FALSE);
     PushWindow(*native);

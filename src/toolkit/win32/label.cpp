@@ -27,7 +27,7 @@ Face FaceOf(const toolkit::Control& label) {
 }
 
 /// The control after (1) or before (-1) a control in its window; null if there is none.
-const toolkit::Control* Neighbour(const toolkit::Control& control, int distance) {
+const toolkit::Control* Neighbor(const toolkit::Control& control, int distance) {
     const auto& controls = control.Owner().Controls();
     const auto index = static_cast<std::size_t>(control.Index() + distance);
     return index < controls.size() ? controls[index] : nullptr;
@@ -35,7 +35,7 @@ const toolkit::Control* Neighbour(const toolkit::Control& control, int distance)
 
 /// Horizontal start of a label's text. A label that follows another starts where its text ends.
 int TextStart(const toolkit::Control& label, const Metrics& metrics) {
-    const toolkit::Control* before = label.Has(toolkit::Follows) ? Neighbour(label, -1) : nullptr;
+    const toolkit::Control* before = label.Has(toolkit::Follows) ? Neighbor(label, -1) : nullptr;
     if (before == nullptr) {
         return static_cast<int>(metrics.Pixels(label.Spec().place).left);
     }
@@ -45,7 +45,7 @@ int TextStart(const toolkit::Control& label, const Metrics& metrics) {
 /// Whether a label is only as wide as its text: other labels may follow it, and only the text of a
 /// link is a link.
 bool FitsItsText(const toolkit::Control& label) {
-    const toolkit::Control* next = Neighbour(label, 1);
+    const toolkit::Control* next = Neighbor(label, 1);
     const bool isFollowed = next != nullptr && next->Has(toolkit::Follows);
     return isFollowed || label.Has(toolkit::Follows) || label.Has(toolkit::Link);
 }

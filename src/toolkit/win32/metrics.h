@@ -14,13 +14,14 @@ enum class Face { Body, Bold, Title, Small };
 
 /// Dots per inch of the primary monitor.
 int SystemDpi();
-/// Dots per inch of the monitor of a window; on a Windows before 10, of the primary monitor.
+/// Dots per inch of the monitor of a window; before Windows 10 version 1607, of the primary
+/// monitor.
 int DpiOf(HWND window);
 
 /// Whether the user asked for high contrast: then the system's colors replace the program's.
 bool IsHighContrast();
 
-/// Everything that depends on the resolution.
+/// Fonts, text measurements and unit conversion for one resolution.
 class Metrics {
   public:
     /// With a font of `percent` of the size that the system has for this resolution.

@@ -130,7 +130,7 @@ LRESULT NativeControl::SendText(UINT message, WPARAM wParam, const std::string& 
     return Send(message, wParam, reinterpret_cast<LPARAM>(platform::Wide(text).c_str()));
 }
 
-std::string NativeControl::NativeText() const {
+std::string NativeControl::WindowText() const {
     std::wstring text(static_cast<std::size_t>(::GetWindowTextLengthW(handle_)) + 1, L'\0');
     const int length = ::GetWindowTextW(handle_, text.data(), static_cast<int>(text.size()));
     return platform::Bytes({text.data(), static_cast<std::size_t>(length)});

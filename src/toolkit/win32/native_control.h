@@ -1,4 +1,4 @@
-// The Windows control of a control.
+// The HWND of a toolkit::Control.
 #pragma once
 
 #include <string>
@@ -11,7 +11,7 @@ namespace desktop {
 
 class NativeWindow;
 
-/// Arguments of CreateWindowEx.
+/// Class name, styles and font of a native control.
 struct NativeClass {
     const wchar_t* name;
     DWORD style = 0;  // besides WS_CHILD
@@ -36,7 +36,7 @@ class NativeControl {
     HWND Handle() const { return handle_; }
     toolkit::Control& GetControl() const { return control_; }
 
-    /// Draws a property. Notifications of the native control are ignored meanwhile.
+    /// Updates the native control for a changed property. Its notifications are ignored meanwhile.
     void Apply(Property property, int row = -1);
     /// Applies font and place, after the resolution has changed.
     void Layout();
@@ -60,9 +60,10 @@ class NativeControl {
     /// Handle the notifications of this kind of control.
     virtual void OnCommand(WORD /*code*/) {}
     virtual LRESULT OnNotify(const NMHDR& /*notice*/) { return 0; }
-    /// Draws a property. The base class draws those that all controls have.
+    /// Updates the native control for a changed property. The base class handles those that all
+    /// controls have.
     virtual void OnPropertyChanged(Property property, int row);
-    /// Sets the state of a new native control that CreateWindowEx does not take.
+    /// Sets the initial state that cannot be passed to CreateWindowEx.
     virtual void OnCreated() {}
     /// Called after font and place have been set.
     virtual void OnLayout() {}
@@ -76,7 +77,7 @@ class NativeControl {
     }
     /// Sends a message with a text as lParam.
     LRESULT SendText(UINT message, WPARAM wParam, const std::string& text) const;
-    std::string NativeText() const;
+    std::string WindowText() const;
     NativeWindow& Parent() const { return parent_; }
     const Metrics& GetMetrics() const;
     /// Returns `place` with another height, centered vertically.

@@ -166,7 +166,7 @@ void NativeWindow::CaptionChanged() const {
     ::SetWindowTextW(handle_, platform::Wide(window_.Caption()).c_str());
 }
 
-void NativeWindow::Centre() const {
+void NativeWindow::Center() const {
     const HWND owner = ::GetWindow(handle_, GW_OWNER);
     const RECT work = WorkArea(owner != nullptr ? owner : handle_);
     RECT frame = {};

@@ -1,4 +1,4 @@
-// The Windows window of a window.
+// The HWND of a toolkit::Window and its message handlers.
 #pragma once
 
 #include <memory>
@@ -28,7 +28,7 @@ class NativeWindow {
     toolkit::Window& GetWindow() const { return window_; }
     const Metrics& GetMetrics() const { return metrics_; }
     ToolTips& Tips() { return tips_; }
-    /// The background of the labels and pictures on it.
+    /// The title band, which the labels and pictures on it draw as their background.
     Band& TitleBand() { return band_; }
     /// The native control of a control of the window; null if there is none.
     NativeControl* Find(const toolkit::Control& control) const;
@@ -37,15 +37,15 @@ class NativeWindow {
 
     void CaptionChanged() const;
     /// Centers the window on the monitor of its owner, or of the window itself if it has none.
-    void Centre() const;
-    /// Sets the keyboard focus to a control, when the window is active.
+    void Center() const;
+    /// Focuses a control, now or as soon as the window is active.
     void Focus(HWND control);
     /// Next time the window becomes active, the first control in the tab order gets the focus.
     void ResetFocus() { focus_ = nullptr; }
 
     /// Sets where the next menu opens, as a point of a control, instead of at the mouse pointer.
     void SetMenuPosition(HWND control, POINT point);
-    /// Returns the place of the menu that opens now, on the screen.
+    /// Returns the screen position for the next menu and clears the one set by SetMenuPosition.
     POINT TakeMenuPosition();
 
   private:

@@ -151,7 +151,7 @@ LRESULT NativeWindow::OnContextMenu(WPARAM wParam, LPARAM lParam) {
 }
 
 LRESULT NativeWindow::OnColorChange(WPARAM /*wParam*/, LPARAM /*lParam*/) {
-    // Windows sends it to top-level windows only.
+    // Windows sends WM_SYSCOLORCHANGE to top-level windows only.
     for (const auto& control : controls_) {
         ::SendMessageW(control->Handle(), WM_SYSCOLORCHANGE, 0, 0);
     }

@@ -13,7 +13,7 @@ class NativeTextBox : public NativeControl {
   protected:
     void OnCommand(WORD code) override {
         if (code == EN_CHANGE) {
-            box_.UserTypes(NativeText());
+            box_.UserTypes(WindowText());
         }
     }
 
