@@ -18,7 +18,7 @@ class CreditsWindow : public toolkit::Window {
         .caption = "Additional code", .place = {12, 38, 230, 9}, .flags = toolkit::Bold}};
     toolkit::Label lblCoder{*this, {.caption = "Qt, on Linux (", .place = {12, 49, 60, 9}}};
     toolkit::Label lblLinkCoder{*this, {
-        .caption = "https://www.qt.io", .place = {72, 49, 90, 9},
+        .caption = "https://www.qt.io", .place = {72, 49, 90, 9}, .tab = 1, .access = 'Q',
         .flags = toolkit::Link | toolkit::Follows}};
     toolkit::Label lblThingy1{*this, {
         .caption = ")", .place = {162, 49, 10, 9}, .flags = toolkit::Follows}};
@@ -35,7 +35,7 @@ class CreditsWindow : public toolkit::Window {
         .caption = "The authors of Zorvane, with librsvg (", .place = {12, 116, 130, 9}}};
     toolkit::Label lblLinkArtist{*this, {
         .caption = "https://gitlab.gnome.org/GNOME/librsvg", .place = {142, 116, 90, 9},
-        .flags = toolkit::Link | toolkit::Follows}};
+        .tab = 2, .access = 'G', .flags = toolkit::Link | toolkit::Follows}};
     toolkit::Label lblThingy2{*this, {
         .caption = ")", .place = {232, 116, 10, 9}, .flags = toolkit::Follows}};
     toolkit::Button cmdOK{*this, {

@@ -20,16 +20,27 @@ Boxes MakeBoxes(toolkit::Window& window, std::integer_sequence<int, Index...>) {
                                        .tab = Index})...};
 }
 
-/// Returns the first letter of a caption that is not in `used`, and adds it; 0 if there is none.
-char FreeLetter(const std::string& caption, std::string& used) {
-    const std::string letters = UpperCase(caption);
-    const auto isFree = [&](char c) { return c >= 'A' && c <= 'Z' && used.find(c) == used.npos; };
-    const auto found = std::ranges::find_if(letters, isFree);
-    if (found == letters.end()) {
-        return '\0';
+std::string Captions(const EngineRecord& engine) {
+    std::string captions;
+    for (const EngineParameter& parameter : engine.parameters) {
+        captions += UpperCase(parameter.caption);
     }
-    used += *found;
-    return *found;
+    return captions;
+}
+
+/// Returns the letter of a caption that is the rarest in `captions`, so that later captions find
+/// one too, without those in `used`. Adds it to `used`. Returns 0 if there is none.
+char RareLetter(const std::string& caption, const std::string& captions, std::string& used) {
+    char rarest = '\0';
+    for (const char c : UpperCase(caption)) {
+        const bool isFree = c >= 'A' && c <= 'Z' && used.find(c) == used.npos;
+        if (isFree && (rarest == '\0' ||
+                       std::ranges::count(captions, c) < std::ranges::count(captions, rarest))) {
+            rarest = c;
+        }
+    }
+    used += rarest;
+    return rarest;
 }
 
 }  // namespace
@@ -55,6 +66,7 @@ void EngineSettingsWindow::ShowEngine(int engineNum) {
 
 void EngineSettingsWindow::ShowEngineOptions() {
     const EngineRecord& engine = EngineAt(engineNum_);
+    const std::string captions = Captions(engine);
     std::string usedLetters(1, cmdAccept.Access());
     for (std::size_t i = 0; i < chkOptions.size(); ++i) {
         const bool exists = i < engine.parameters.size();
@@ -62,7 +74,7 @@ void EngineSettingsWindow::ShowEngineOptions() {
         if (exists) {
             const std::string& caption = engine.parameters[i].caption;
             chkOptions[i].SetCaption(caption);
-            chkOptions[i].SetAccess(FreeLetter(caption, usedLetters));
+            chkOptions[i].SetAccess(RareLetter(caption, captions, usedLetters));
             chkOptions[i].SetChecked(engine.options[i]);
         }
     }

@@ -33,6 +33,11 @@ struct Place {
     int y = 0;
     int width = 0;
     int height = 0;
+
+    bool Contains(const Place& inner) const {
+        return inner.x >= x && inner.y >= y && inner.x + inner.width <= x + width &&
+               inner.y + inner.height <= y + height;
+    }
 };
 
 /// Properties that a control may be declared with, besides its caption and place.

@@ -33,7 +33,6 @@ class QtWindow : public testing::Test {
 
 TEST_F(QtWindow, HasAccessibleNamesAndTakesKeys) {
     EXPECT_EQ(WidgetOf(form.lstRows).accessibleName().toStdString(), "Files & more");
-    EXPECT_EQ(WidgetOf(form.cmdNo).accessibleName().toStdString(), "No");
     EXPECT_EQ(driver::Focused(form), &form.lstRows);
     form.lstRows.AddItem("a");
     QTest::keyClick(&WidgetOf(form.lstRows), Qt::Key_Down);

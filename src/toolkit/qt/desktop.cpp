@@ -6,6 +6,7 @@
 #include <QWindow>
 
 #include "platform/shell.h"
+#include "toolkit/qt/accessible.h"
 #include "toolkit/qt/controls.h"
 #include "toolkit/qt/look.h"
 #include "toolkit/qt/native_windows.h"
@@ -28,6 +29,7 @@ void StartDesktop() {
     QApplication::setDesktopFileName(QStringLiteral("zorvane"));
     QApplication::setQuitOnLastWindowClosed(false);
     ApplyLook();
+    InstallAccessibility();
     WatchSessionEnd();
 }
 

@@ -1,5 +1,7 @@
 #include <QGroupBox>
 #include <QPainter>
+#include <QStyleOption>
+#include <QStylePainter>
 
 #include "toolkit/qt/controls.h"
 #include "toolkit/qt/text.h"
@@ -7,13 +9,10 @@
 namespace desktop {
 namespace {
 
-/// Drawn below the controls that it surrounds; they are not its children.
+/// The parent of the controls that it surrounds. Its own font stays, because they inherit it.
 class FrameWidget final : public QGroupBox, public NativeControl {
   public:
     FrameWidget(toolkit::Control& frame, QWidget& parent) : QGroupBox(&parent), frame_(frame) {
-        QFont bold = font();
-        bold.setBold(true);
-        setFont(bold);
         Apply(Property::Caption, -1);
     }
 
@@ -23,6 +22,18 @@ class FrameWidget final : public QGroupBox, public NativeControl {
         if (property == Property::Caption) {
             setTitle(EscapeAmpersands(DisplayText(frame_.Caption())));
         }
+    }
+
+  protected:
+    void paintEvent(QPaintEvent*) override {
+        QStyleOptionGroupBox option;
+        initStyleOption(&option);
+        QFont bold = font();
+        bold.setBold(true);
+        option.fontMetrics = QFontMetrics(bold);
+        QStylePainter painter(this);
+        painter.setFont(bold);
+        painter.drawComplexControl(QStyle::CC_GroupBox, option);
     }
 
   private:

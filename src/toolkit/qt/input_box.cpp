@@ -22,10 +22,13 @@ std::string AskForText(const std::string& prompt, const std::string& title,
                        const std::string& preset) {
     QDialog dialog(FrontWindow());
     dialog.setWindowTitle(DisplayText(title));
-    auto* label = new QLabel(Breakable(EscapeAmpersands(DisplayText(prompt))));
+    const QString question = DisplayText(prompt);
+    auto* label = new QLabel(Breakable(EscapeAmpersands(question)));
+    label->setAccessibleName(question);
     label->setTextFormat(Qt::PlainText);
     label->setWordWrap(true);
     auto* field = new QLineEdit(Decode(preset));
+    field->setAccessibleName(question);
     field->selectAll();
     label->setBuddy(field);
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);

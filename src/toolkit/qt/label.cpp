@@ -1,5 +1,8 @@
 #include <QLabel>
 #include <QMouseEvent>
+#include <QShortcut>
+#include <QStyleOption>
+#include <QStylePainter>
 
 #include "toolkit/qt/controls.h"
 #include "toolkit/qt/look.h"
@@ -24,6 +27,7 @@ class LabelWidget final : public QLabel, public NativeControl {
     }
 
     QWidget& Widget() override { return *this; }
+    toolkit::Label* Link() override { return label_.Has(toolkit::Link) ? &label_ : nullptr; }
 
     void Apply(Property property, int) override {
         if (property == Property::Caption) {
@@ -37,16 +41,27 @@ class LabelWidget final : public QLabel, public NativeControl {
   protected:
     void mouseReleaseEvent(QMouseEvent* event) override {
         const bool inside = rect().contains(event->position().toPoint());
-        if (label_.Has(toolkit::Link) && event->button() == Qt::LeftButton && inside) {
+        if (Link() != nullptr && event->button() == Qt::LeftButton && inside) {
             label_.UserClicks();
         }
     }
 
     void keyPressEvent(QKeyEvent* event) override {
-        if (event->key() == Qt::Key_Space || event->key() == Qt::Key_Return) {
+        const bool presses = event->key() == Qt::Key_Space || event->key() == Qt::Key_Return ||
+                             event->key() == Qt::Key_Enter;
+        if (Link() != nullptr && presses) {
             label_.UserClicks();
         } else {
             event->ignore();
+        }
+    }
+
+    void paintEvent(QPaintEvent* event) override {
+        QLabel::paintEvent(event);
+        if (hasFocus()) {
+            QStyleOptionFocusRect option;
+            option.initFrom(this);
+            QStylePainter(this).drawPrimitive(QStyle::PE_FrameFocusRect, option);
         }
     }
 
@@ -74,7 +89,7 @@ class LabelWidget final : public QLabel, public NativeControl {
             setAlignment(Qt::AlignLeft | Qt::AlignTop);
             setMargin(5);
         }
-        if (label_.Has(toolkit::Link)) {
+        if (Link() != nullptr) {
             SetLinkLook();
         }
     }
@@ -91,6 +106,9 @@ class LabelWidget final : public QLabel, public NativeControl {
         SetColor(palette().color(QPalette::Link));
         setCursor(Qt::PointingHandCursor);
         setFocusPolicy(Qt::StrongFocus);
+        auto* accessKey = new QShortcut(QKeySequence(Qt::ALT | Qt::Key(label_.Access())), this);
+        connect(accessKey, &QShortcut::activated, this,
+                [this] { setFocus(Qt::ShortcutFocusReason); });
     }
 
     void SetColor(const QColor& color) {

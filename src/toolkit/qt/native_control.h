@@ -19,6 +19,8 @@ class NativeControl {
     virtual QWidget& Widget() = 0;
     /// The part of it that receives mouse events.
     virtual QWidget& Surface() { return Widget(); }
+    /// The label that it shows as a link; null for any other control.
+    virtual toolkit::Label* Link() { return nullptr; }
     /// Updates the widget for a changed property that only this kind of control has. Raises no
     /// event.
     virtual void Apply(Property property, int row) = 0;

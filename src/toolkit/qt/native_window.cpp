@@ -75,7 +75,7 @@ void NativeWindow::MakeControls(bool background) {
 }
 
 void NativeWindow::Add(toolkit::Control& control) {
-    NativeControl* native = MakeControl(control, *this);
+    NativeControl* native = MakeControl(control, ParentOf(control));
     natives_.emplace(&control, native);
     QWidget& widget = native->Widget();
     // The window itself must not see the pointer moving over a control.
@@ -98,6 +98,17 @@ void NativeWindow::Add(toolkit::Control& control) {
     }
 }
 
+/// The frame around a control, which a screen reader reports as its group, or the window.
+QWidget& NativeWindow::ParentOf(const toolkit::Control& control) {
+    for (const auto& [frame, native] : natives_) {
+        if (frame->GetKind() == toolkit::Kind::Frame &&
+            frame->Spec().place.Contains(control.Spec().place)) {
+            return native->Widget();
+        }
+    }
+    return *this;
+}
+
 void NativeWindow::PlaceControls() {
     const UnitSize unit = UnitsOf(font());
     setFixedSize(InPixels({0, 0, window_.Spec().width, window_.Spec().height}, unit).size());
@@ -115,7 +126,7 @@ void NativeWindow::PlaceControls() {
             place.moveLeft(before->x() + before->sizeHint().width());
             place.setWidth(widget.sizeHint().width());
         }
-        widget.setGeometry(place);
+        widget.setGeometry(place.translated(-widget.parentWidget()->mapTo(this, QPoint())));
         before = &widget;
     }
 }
@@ -145,11 +156,19 @@ void NativeWindow::NameControls() {
     for (const toolkit::Control* control : window_.Controls()) {
         const toolkit::ControlSpec& spec = control->Spec();
         QWidget& widget = Find(*control).Widget();
-        if (spec.label != nullptr) {
-            static_cast<QLabel&>(Find(*spec.label).Widget()).setBuddy(&widget);
-            widget.setAccessibleName(Decode(spec.label->Caption()));
-        } else if (!spec.accessibleName.empty()) {
-            widget.setAccessibleName(Decode(spec.accessibleName));
+        if (spec.tip) {
+            widget.setAccessibleDescription(Decode(*spec.tip));
+        }
+        if (spec.label == nullptr) {
+            continue;
+        }
+        static_cast<QLabel&>(Find(*spec.label).Widget()).setBuddy(&widget);
+        const QString name = Decode(spec.label->Caption());
+        if (control->GetKind() == toolkit::Kind::Label) {
+            widget.setAccessibleDescription(name);  // its name is its own text
+        } else {
+            widget.setAccessibleName(name);
+            Find(*control).Surface().setAccessibleName(name);
         }
     }
 }

@@ -43,6 +43,7 @@ class NativeWindow final : public QWidget {
   private:
     void MakeControls(bool background);
     void Add(toolkit::Control& control);
+    QWidget& ParentOf(const toolkit::Control& control);
     void PlaceControls();
     void SetTabOrder();
     void NameControls();

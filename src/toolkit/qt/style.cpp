@@ -141,6 +141,8 @@ void Style::drawPrimitive(PrimitiveElement element, const QStyleOption* option, 
         DrawButtonSurface(*painter, *option, isDefault || keyFocus);
     } else if (element == PE_IndicatorCheckBox) {
         DrawCheckBox(*painter, *option);
+    } else if (element == PE_FrameFocusRect) {
+        DrawSurface(*painter, option->rect, Qt::NoBrush, FocusPen(*option), 2);
     } else if (element == PE_PanelLineEdit && !inCombo) {
         DrawField(*painter, *option, option->palette.color(QPalette::Base), CornerRadius);
     } else if (element == PE_Frame && !inCombo) {
