@@ -43,7 +43,7 @@ bool LoadAgain() {
 
 void SaveAndLoad(const std::string& text) {
     ResetState();
-    InitializeSettings();
+    InitialiseSettings();
     ReadEngineFile(MemoryFolder().Write("one.cfg", "type = \"Zorvane engine file\";" + text));
     MemoryFolder().Write("zorvane.cfg", "type = \"Zorvane Configuration file\";" + text);
     if (!LoadSettings()) {

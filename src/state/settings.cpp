@@ -112,7 +112,7 @@ void StoreLists() {
 
 }  // namespace
 
-void InitializeSettings() {
+void InitialiseSettings() {
     // In the order of a new file. Numbers have 16 bits, as the controls store them.
     constexpr std::int16_t None = NoSelection;
     constexpr std::int16_t ThirdSkill = 2;

@@ -29,7 +29,7 @@
 #include "toolkit/window.h"
 
 /// Replaces Settings by the defaults and sets SettingsFileName.
-void InitializeSettings();
+void InitialiseSettings();
 
 /// Reads the settings file into Settings, GameWads, FileList and the paths and options of Engines.
 /// Shows a message and returns false if the file cannot be read or is of another type; the file

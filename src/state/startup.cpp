@@ -40,7 +40,7 @@ bool PrepareSettings() {
 void Main() {
     shuttingDown = false;
     const std::string directory = platform::ProgramDirectory();
-    InitializeSettings();
+    InitialiseSettings();
     // The engines come first: loading the settings fills in their paths and options.
     settingsLoaded = ScanEngineFiles(JoinPath(directory, "engines")) && PrepareSettings();
     if (!settingsLoaded) {
