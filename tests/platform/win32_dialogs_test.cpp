@@ -67,11 +67,10 @@ TEST(WindowsDialogs, ReturnTheFilesPicked) {
         {"", ""},
     };
     for (const auto& [typed, picked] : rows) {
-        desktop::OpenFileName record = {
-            .lpstrFilter = "All files (*.*)\0*.*\0"s,
-            .lpstrInitialDir = folder.Path(),
-            .lpstrTitle = "Pick",
-            .Flags = SeveralFilesFlags};
+        desktop::OpenFileName record = {.lpstrFilter = "All files (*.*)\0*.*\0"s,
+                                        .lpstrInitialDir = folder.Path(),
+                                        .lpstrTitle = "Pick",
+                                        .Flags = SeveralFilesFlags};
         InNext(L"Pick", [&](HWND dialog) {
             for (const int field : {0x480, 0x47c}) {  // an edit field, in newer dialogs a combo box
                 if (const HWND name = GetDlgItem(dialog, field)) {
@@ -112,8 +111,8 @@ TEST(WindowsDialogs, ShowMessagesAndHandleEventsUntilAProcessEnds) {
     });
     desktop::ShowMessage("One\r\ntwo", "Zorvane", desktop::MessageIcon::Critical);
 
-    platform::ShellExecuteInfo info = {platform::SeeMaskNoCloseProcess,
-                                       "C:\\windows\\system32\\cmd.exe", "/c exit", "", 0, {}};
+    platform::ShellExecuteInfo info = {
+        platform::SeeMaskNoCloseProcess, "C:\\windows\\system32\\cmd.exe", "/c exit", "", 0, {}};
     ASSERT_TRUE(platform::ShellExecuteExA(info));
     desktop::RunEventsUntilEnd(info.hProcess);
     EXPECT_EQ(platform::WaitForSingleObject(info.hProcess, 0), 0U);
