@@ -55,15 +55,12 @@ TEST(ConfigMap, KeepsReferencesUntilAKeyIsAddedOrRemoved) {
     EXPECT_FALSE(map.Exists("3"));
 }
 
-TEST(ConfigMap, AMillionOpenBracesAreReadCopiedWrittenAndFreed) {
+TEST(ConfigMap, IsCopiedAndFreedAtAnyDepth) {
     const std::string opened(1'000'000, '{');
     std::size_t position = 0;
     ConfigMapRef root = ParseBlock(position, opened);
     const ConfigMapRef copy = CopyBlock(*root);
-    const ConfigMapRef inner = root->Find("")->AsMap();
-    root.reset();  // frees only the map that is not held here
-    EXPECT_EQ(inner->Find("")->AsMap()->Count(), 1);
-    inner->Item("new") = 1;
+    root.reset();
     EXPECT_EQ(OutputBlock(*copy, 0, "", false), opened + std::string(opened.size(), '}'));
 }
 

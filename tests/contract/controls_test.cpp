@@ -194,12 +194,12 @@ TEST_F(Controls, KeysReachTheirControls) {
              &form.txtName, &form.cmbFree, &form.cmbFixed, &form.chkBox, &form.lstRows,
              &form.lvwRows, &form.cmdYes}) {
         EXPECT_EQ(driver::Focused(form), control) << control->Index();
-        driver::PressEnter(form);
-        driver::PressEscape(form);
+        driver::Press(form, driver::Key::Enter);
+        driver::Press(form, driver::Key::Escape);
         EXPECT_EQ(std::exchange(pressed, ""), "yes no ") << control->Index();
         driver::Press(form, driver::Key::Tab);
     }
-    driver::PressEnter(form);
+    driver::Press(form, driver::Key::Enter);
     EXPECT_EQ(pressed, "no ") << "Enter presses the button that has the focus";
     form.txtName.SetFocus();
     EXPECT_EQ(driver::Focused(form), &form.txtName);
@@ -251,9 +251,10 @@ TEST_F(Controls, ModalWindowsComeAndGo) {
     dialog.OnCloseRequest = [&] { dialog.Hide(); };
     dialog.cmdOK.OnClick = [&] { dialog.Hide(); };
     form.cmbFixed.SetFocus();
-    const std::function<void()> ways[] = {
-        [&] { driver::Click(dialog.cmdOK); }, [&] { driver::Close(dialog); },
-        [&] { driver::PressEnter(dialog); }, [&] { driver::PressEscape(dialog); }};
+    const std::function<void()> ways[] = {[&] { driver::Click(dialog.cmdOK); },
+                                          [&] { driver::Close(dialog); },
+                                          [&] { driver::Press(dialog, driver::Key::Enter); },
+                                          [&] { driver::Press(dialog, driver::Key::Escape); }};
     for (const auto& leave : ways) {
         driver::InNextModal([&] {
             pressed += driver::ShownCaption(dialog);

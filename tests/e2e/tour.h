@@ -35,8 +35,7 @@ struct Answer {
 void Press(toolkit::Button& button, const std::vector<Answer>& answers = {});
 
 /// Waits until the engine shows a game, and checks its arguments, separated by spaces. Moves its
-/// window next to ours, takes a picture, and kills its process group unless it is to keep running.
-void WatchGame(const std::string& engine, const std::string& arguments, const std::string& picture,
-               bool keepRunning = false);
+/// window next to ours, takes a picture, and kills its process group.
+void WatchGame(const std::string& engine, const std::string& arguments);
 
 }  // namespace tour

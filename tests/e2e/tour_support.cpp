@@ -98,8 +98,7 @@ void Press(toolkit::Button& button, const std::vector<Answer>& answers) {
     driver::Click(button);
 }
 
-void WatchGame(const std::string& engine, const std::string& arguments, const std::string& picture,
-               bool keepRunning) {
+void WatchGame(const std::string& engine, const std::string& arguments) {
     constexpr int MeltTime = 1200;  // the title screen melts into the map
     const std::string program = folder + "/ports/" + engine + "/" + engine + " ";
     std::string found;  // the number of the process and its command line
@@ -110,11 +109,9 @@ void WatchGame(const std::string& engine, const std::string& arguments, const st
         Until([&] { return ShowsSomething(process); }, program + "shows something");
         QTest::qWait(pause);
     }
-    Picture(picture);
-    if (!keepRunning) {
-        kill(-process, SIGKILL);
-        Until([&] { return kill(process, 0) != 0; }, "a game ends");
-    }
+    Picture("game");
+    kill(-process, SIGKILL);
+    Until([&] { return kill(process, 0) != 0; }, "a game ends");
 }
 
 }  // namespace tour

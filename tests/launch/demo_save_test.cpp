@@ -62,7 +62,7 @@ TEST_F(DemoSave, BrowsingReplacesTheNameAndEscapeDiscards) {
         EXPECT_EQ(machine.fileQuestions[0].lpstrFilter,
                   std::string("Demo files (*.lmp)\0*.lmp\0All files (*.*)\0*.*", 44));
         EXPECT_EQ(machine.fileQuestions[0].Flags, 6U);
-        driver::PressEscape(frmDemoSave);
+        driver::Press(frmDemoSave, driver::Key::Escape);
     });
     EXPECT_FALSE(HasTemporary());
     Show([] { driver::Click(frmDemoSave.cmdDiscard); });

@@ -113,7 +113,7 @@ TEST_F(MainWindowCase, RecordingLeavesTheWindowAlive) {
     machine.onEvents = [] { frmMain.cmbSkill.SetListIndex(machine.rounds); };
     driver::InNextModal([] {
         EXPECT_EQ(machine.repaints, 1);
-        driver::PressEnter(frmDemoSave);
+        driver::Press(frmDemoSave, driver::Key::Enter);
     });
     driver::Click(frmMain.cmdDemo);
     EXPECT_EQ(frmMain.cmbSkill.ListIndex(), 0) << "to the last round";
@@ -136,7 +136,7 @@ TEST_F(MainWindowCase, ASecondRecordingLeavesTheFirstItsFile) {
     };
     driver::InNextModal([&] {
         EXPECT_EQ(frmDemoSave.DemoFileName, demo);
-        driver::PressEscape(frmDemoSave);
+        driver::Press(frmDemoSave, driver::Key::Escape);
     });
     driver::Click(frmMain.cmdDemo);
 }
@@ -180,12 +180,12 @@ TEST_F(MainWindowCase, LinksOpenAndEscapeIsExit) {
     machine.accepts = false;
     driver::InNextModal([] {
         driver::Click(frmCredits.lblLinkCoder);
-        driver::PressEnter(frmCredits);
+        driver::Press(frmCredits, driver::Key::Enter);
     });
     driver::Click(frmMain.cmdAbout);
     EXPECT_EQ(machine.started.at(0).file, frmCredits.lblLinkCoder.Caption());
     EXPECT_EQ(machine.started[0].show, 3);
-    EXPECT_TRUE(Ends([] { driver::PressEscape(frmMain); }));
+    EXPECT_TRUE(Ends([] { driver::Press(frmMain, driver::Key::Escape); }));
 }
 
 }  // namespace

@@ -130,7 +130,7 @@ TEST_F(SetupCase, OptionsShowAndFollowEachEngine) {
         driver::Click(boxes[15]);
         driver::Click(boxes[1]);
         EXPECT_EQ(frmEngineSettings.lblParameters.Caption(), "-switch2 -switch16");
-        driver::PressEscape(frmEngineSettings);
+        driver::Press(frmEngineSettings, driver::Key::Escape);
     });
     driver::Choose(frmMain.cmbEngines, 1);
     driver::Click(frmMain.cmdSettings);

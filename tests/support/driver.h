@@ -70,12 +70,6 @@ inline void DoubleClick(toolkit::Control& list, int row) {
 inline void PointAt(toolkit::Control& control, int row = 0) {
     Use(Mouse::Move, control, row);
 }
-inline void PressEnter(toolkit::Window& window) {
-    Press(window, Key::Enter);
-}
-inline void PressEscape(toolkit::Window& window) {
-    Press(window, Key::Escape);
-}
 inline std::string ShownText(const toolkit::Control& control) {
     return LookAt(control).text;
 }
