@@ -23,6 +23,7 @@ DemoSaveWindow::DemoSaveWindow()
 
 void DemoSaveWindow::Propose() {
     txtDemoFile.SetText(SettingText("lastdir") + "\\demo." + DemoExt);
+    txtDemoFile.SetFocus();
 }
 
 std::string DemoSaveWindow::WithDemoExtension(const std::string& path) const {
@@ -39,7 +40,10 @@ void DemoSaveWindow::Browse() {
 }
 
 void DemoSaveWindow::Save() {
-    const std::string target = WithDemoExtension(txtDemoFile.Text());
+    const std::string& text = txtDemoFile.Text();
+    const bool isBareName = text.find_first_of("\\/:") == text.npos;
+    const std::string target =
+        WithDemoExtension(isBareName ? SettingText("lastdir") + "\\" + text : text);
     if (const platform::Outcome copied = platform::CopyWholeFile(DemoFileName, target); !copied) {
         Warn("The demo could not be saved to " + target + "\r\n" + copied.reason);
         return;

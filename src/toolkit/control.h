@@ -51,7 +51,8 @@ enum Flag : unsigned {
     Link = 1U << 6,     // label: looks like a link and can be clicked
     Sunken = 1U << 7,   // label: with a border, its text wrapped
     Quiet = 1U << 8,    // label: in a weaker color
-    IsPath = 1U << 9,   // text box: holds a path, which is shown in the system's notation
+    IsPath = 1U << 9,   // text box: holds a path, shown in the system's notation; one that
+                        // the program sets has its name selected, without the extension
     Follows =
         1U << 10,  // label: as wide as its text, directly after the text of the control before
 };

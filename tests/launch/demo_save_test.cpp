@@ -36,6 +36,12 @@ TEST_F(DemoSave, SavesUnderTheNameWithTheEnginesExtension) {
         EXPECT_EQ(folder.Read(row.second), "demo");
         EXPECT_FALSE(HasTemporary());
     }
+    frmDemoSave.DemoFileName = folder.Write("demos/temp.lmp", "demo");
+    Show([&] {
+        driver::Type(frmDemoSave.txtDemoFile, "bare");
+        driver::Click(frmDemoSave.cmdSave);
+    });
+    EXPECT_EQ(folder.Read("demos/bare.lmp"), "demo") << "in the proposed folder";
 }
 
 TEST_F(DemoSave, AFailedCopyKeepsDialogAndDemo) {

@@ -2,8 +2,13 @@
 #include <gtest/gtest.h>
 
 #include <QAbstractEventDispatcher>
+#include <QApplication>
+#include <QContextMenuEvent>
+#include <QLineEdit>
+#include <QPushButton>
 #include <QTest>
 #include <QTimer>
+#include <QWheelEvent>
 #include <QWidget>
 
 #include "contract/form.h"
@@ -40,6 +45,33 @@ TEST_F(QtWindow, HasAccessibleNamesAndTakesKeys) {
     driver::Type(form.txtName, "");
     QTest::keyClick(&WidgetOf(form.txtName), Qt::Key_M, Qt::AltModifier);
     EXPECT_EQ(driver::Focused(form), &form.lstRows) << "by the letter in its label";
+    bool asked = false;
+    form.lstRows.OnButtonReleased = [&](toolkit::MouseButton button, double x, double y) {
+        asked = button == toolkit::MouseButton::Right &&
+                desktop::ItemFromPoint(form.lstRows, static_cast<int>(x), static_cast<int>(y)) == 0;
+    };
+    QContextMenuEvent menuKey(QContextMenuEvent::Keyboard, {}, {});
+    QApplication::sendEvent(&WidgetOf(form.lstRows), &menuKey);
+    EXPECT_TRUE(asked) << "for the menu of the selected row";
+}
+
+TEST_F(QtWindow, MarksOneDefaultButtonAndIgnoresTheWheelWithoutFocus) {
+    const auto isDefault = [this](const toolkit::Control& button) {
+        return qobject_cast<QPushButton*>(&WidgetOf(button))->isDefault();
+    };
+    driver::Type(form.txtName, "");
+    EXPECT_TRUE(isDefault(form.cmdYes));
+    form.cmdNo.SetFocus();
+    EXPECT_TRUE(isDefault(form.cmdNo));
+    EXPECT_FALSE(isDefault(form.cmdYes));
+    form.cmbFixed.AddItem("a");
+    form.cmbFixed.AddItem("b");
+    form.cmbFixed.SetListIndex(0);
+    QWheelEvent wheel({5, 5}, {5, 5}, {}, {0, -120}, {}, {}, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(&WidgetOf(form.cmbFixed), &wheel);
+    EXPECT_EQ(form.cmbFixed.ListIndex(), 0);
+    form.txtPath.SetText("Z:\\a.b\\demo.lmp");
+    EXPECT_EQ(qobject_cast<QLineEdit*>(&WidgetOf(form.txtPath))->selectedText(), "demo");
 }
 
 TEST_F(QtWindow, ShowsUtf8OrElseWindows1252AndNativePaths) {

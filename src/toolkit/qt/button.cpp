@@ -80,12 +80,10 @@ class AccentButtonWidget final : public ButtonWidget {
     void paintEvent(QPaintEvent*) override {
         QStyleOptionButton option;
         initStyleOption(&option);
-        const bool ringed = option.state.testFlag(QStyle::State_HasFocus) &&
-                            option.state.testFlag(QStyle::State_KeyboardFocusChange);
         QPainter painter(this);
         painter.setRenderHint(QPainter::Antialiasing);
         DrawBox(painter, Fill(option), Accent.darker(128), 0.5);
-        if (ringed) {
+        if (hasFocus()) {
             DrawBox(painter, Qt::transparent, Qt::white, 3.5);
         }
         const double strength = isEnabled() ? 1 : 0.6;

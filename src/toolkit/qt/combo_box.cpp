@@ -1,6 +1,7 @@
 #include <QComboBox>
 #include <QLineEdit>
 #include <QSignalBlocker>
+#include <QWheelEvent>
 
 #include "toolkit/qt/controls.h"
 #include "toolkit/qt/item_model.h"
@@ -29,6 +30,14 @@ class ComboWidget : public QComboBox, public NativeControl {
     void hidePopup() override {
         static_cast<NativeWindow*>(window())->IgnoreEscape();
         QComboBox::hidePopup();
+    }
+
+    void wheelEvent(QWheelEvent* event) override {
+        if (hasFocus()) {
+            QComboBox::wheelEvent(event);
+        } else {
+            event->ignore();
+        }
     }
 
     void Apply(Property property, int row) override {

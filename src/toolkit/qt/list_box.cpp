@@ -1,3 +1,4 @@
+#include <QContextMenuEvent>
 #include <QHelpEvent>
 #include <QListView>
 #include <QMouseEvent>
@@ -8,6 +9,7 @@
 
 #include "toolkit/qt/controls.h"
 #include "toolkit/qt/item_model.h"
+#include "toolkit/qt/native_window.h"
 
 namespace desktop {
 namespace {
@@ -86,6 +88,16 @@ class ListBoxWidget final : public QListView, public NativeControl {
     void mouseDoubleClickEvent(QMouseEvent* event) override {
         if (event->button() == Qt::LeftButton && indexAt(event->position().toPoint()).isValid()) {
             list_.UserDoubleClicks();
+        }
+    }
+
+    /// The menu key opens the menu below the selected row.
+    void contextMenuEvent(QContextMenuEvent* event) override {
+        if (event->reason() == QContextMenuEvent::Keyboard && list_.ListIndex() >= 0) {
+            scrollTo(currentIndex());
+            const QPoint point = visualRect(currentIndex()).center();
+            static_cast<NativeWindow*>(window())->SetMenuPosition(viewport()->mapToGlobal(point));
+            list_.UserReleasesButton(toolkit::MouseButton::Right, point.x(), point.y());
         }
     }
 

@@ -1,6 +1,5 @@
 #include "toolkit/menu.h"
 
-#include <QCursor>
 #include <QMenu>
 
 #include "toolkit/desktop.h"
@@ -10,12 +9,16 @@
 namespace desktop {
 
 void ShowPopupMenu(toolkit::Window& window, toolkit::PopupMenu& menu) {
-    QMenu native(FindNative(&window));
+    NativeWindow* parent = FindNative(&window);
+    if (parent == nullptr) {
+        return;
+    }
+    QMenu native(parent);
     for (const toolkit::MenuItem* item : menu.Items()) {
         QAction* action = native.addAction(EscapeAmpersands(DisplayText(item->Caption())));
         action->setEnabled(item->Enabled());
     }
-    const qsizetype chosen = native.actions().indexOf(native.exec(QCursor::pos()));
+    const qsizetype chosen = native.actions().indexOf(native.exec(parent->TakeMenuPosition()));
     if (chosen >= 0) {
         menu.Items()[static_cast<std::size_t>(chosen)]->UserClicks();
     }

@@ -208,8 +208,23 @@ bool NativeWindow::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::MouseMove || event->type() == QEvent::Enter) {
         const QPointF at = static_cast<QSinglePointEvent*>(event)->position();
         control->UserMovesPointer(at.x(), at.y());
+    } else if (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut) {
+        MarkDefaultButton();
     }
     return false;
+}
+
+/// A button is the default one while it has the focus.
+void NativeWindow::MarkDefaultButton() {
+    const auto* focused = qobject_cast<QPushButton*>(focusWidget());
+    for (const toolkit::Control* control : window_.Controls()) {
+        auto* button = qobject_cast<QPushButton*>(&Find(*control).Widget());
+        const bool isDefault =
+            focused != nullptr ? button == focused : control->Has(toolkit::Default);
+        if (button != nullptr && button->isDefault() != isDefault) {
+            button->setDefault(isDefault);
+        }
+    }
 }
 
 void NativeWindow::mouseMoveEvent(QMouseEvent*) {

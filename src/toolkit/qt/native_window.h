@@ -1,10 +1,13 @@
 // A window as a Qt widget.
 #pragma once
 
+#include <QCursor>
 #include <QEventLoop>
 #include <QHash>
 #include <QWidget>
+#include <optional>
 #include <unordered_map>
+#include <utility>
 
 #include "toolkit/qt/native_control.h"
 #include "toolkit/window.h"
@@ -18,6 +21,11 @@ class NativeWindow final : public QWidget {
 
     /// The widget of one of its controls.
     NativeControl& Find(const toolkit::Control& control) const { return *natives_.at(&control); }
+    /// Where the next pop-up menu opens, in pixels of the screen: here, or else at the pointer.
+    void SetMenuPosition(QPoint point) { menuPosition_ = point; }
+    QPoint TakeMenuPosition() {
+        return std::exchange(menuPosition_, std::nullopt).value_or(QCursor::pos());
+    }
     /// Centers the window on the screen of `owner`, or on the primary screen if it is null.
     void Center(const QWidget* owner);
     /// Handles events until the window is hidden.
@@ -48,10 +56,12 @@ class NativeWindow final : public QWidget {
     void SetTabOrder();
     void NameControls();
     void UnderlineAccessKeys(bool underlined);
+    void MarkDefaultButton();
     bool PressButton(toolkit::Flag flag);
 
     toolkit::Window& window_;
     QEventLoop* modalLoop_ = nullptr;  // while it is shown modally
+    std::optional<QPoint> menuPosition_;
     bool ignoresEscape_ = false;
     std::unordered_map<const toolkit::Control*, NativeControl*> natives_;
     QHash<const QObject*, toolkit::Control*> surfaces_;  // by the widget that receives mouse events

@@ -55,15 +55,20 @@ QPen FocusPen(const QStyleOption& option) {
     return {color, 1.6};
 }
 
-void DrawButtonSurface(QPainter& painter, const QStyleOption& option, bool focused) {
-    DrawSurface(painter, option.rect, ButtonFill(option),
-                focused ? FocusPen(option) : QPen(Outline(option), 1));
+QPen EdgePen(const QStyleOption& option) {
+    return Has(option, QStyle::State_HasFocus) ? FocusPen(option) : QPen(Outline(option), 1);
 }
 
-void DrawField(QPainter& painter, const QStyleOption& option, const QBrush& fill, double radius) {
-    const bool focused = Has(option, QStyle::State_HasFocus);
-    DrawSurface(painter, option.rect, fill, focused ? FocusPen(option) : QPen(Outline(option), 1),
-                radius);
+bool IsDefaultButton(const QStyleOption& option) {
+    const auto* button = qstyleoption_cast<const QStyleOptionButton*>(&option);
+    return button != nullptr && button->features.testFlag(QStyleOptionButton::DefaultButton) &&
+           Has(option, QStyle::State_Enabled);
+}
+
+void DrawButton(QPainter& painter, const QStyleOption& option) {
+    const bool isMarked = IsDefaultButton(option) && !Has(option, QStyle::State_HasFocus);
+    DrawSurface(painter, option.rect, ButtonFill(option),
+                isMarked ? QPen(option.palette.color(QPalette::Dark), 1.6) : EdgePen(option));
 }
 
 void DrawCheckMark(QPainter& painter, const QRect& box) {
@@ -132,22 +137,22 @@ void Style::drawPrimitive(PrimitiveElement element, const QStyleOption* option, 
                           const QWidget* widget) const {
     const bool inCombo = widget != nullptr && qobject_cast<QComboBox*>(widget->parentWidget());
     if (element == PE_PanelButtonCommand) {
-        const bool isDefault = Has(*option, State_Enabled) &&
-                               qstyleoption_cast<const QStyleOptionButton*>(option) != nullptr &&
-                               static_cast<const QStyleOptionButton*>(option)->features.testFlag(
-                                   QStyleOptionButton::DefaultButton);
-        const bool keyFocus =
-            Has(*option, State_HasFocus) && Has(*option, State_KeyboardFocusChange);
-        DrawButtonSurface(*painter, *option, isDefault || keyFocus);
+        DrawButton(*painter, *option);
     } else if (element == PE_IndicatorCheckBox) {
         DrawCheckBox(*painter, *option);
     } else if (element == PE_FrameFocusRect) {
-        DrawSurface(*painter, option->rect, Qt::NoBrush, FocusPen(*option), 2);
+        // A selected row needs none: it is filled, and its list has a ring.
+        const auto* focus = qstyleoption_cast<const QStyleOptionFocusRect*>(option);
+        if (focus == nullptr ||
+            focus->backgroundColor != option->palette.color(QPalette::Highlight)) {
+            DrawSurface(*painter, option->rect, Qt::NoBrush, FocusPen(*option), 2);
+        }
     } else if (element == PE_PanelLineEdit && !inCombo) {
-        DrawField(*painter, *option, option->palette.color(QPalette::Base), CornerRadius);
+        DrawSurface(*painter, option->rect, option->palette.color(QPalette::Base),
+                    EdgePen(*option));
     } else if (element == PE_Frame && !inCombo) {
         // Small corners, because the rows inside have square ones.
-        DrawField(*painter, *option, Qt::NoBrush, 1.5);
+        DrawSurface(*painter, option->rect, Qt::NoBrush, EdgePen(*option), 1.5);
     } else if (element != PE_PanelLineEdit) {
         QProxyStyle::drawPrimitive(element, option, painter, widget);
     }
@@ -158,15 +163,13 @@ void Style::drawComplexControl(ComplexControl control, const QStyleOptionComplex
     const auto* combo = qstyleoption_cast<const QStyleOptionComboBox*>(option);
     const auto* group = qstyleoption_cast<const QStyleOptionGroupBox*>(option);
     if (control == CC_ComboBox && combo != nullptr) {
-        const bool focused = Has(*option, State_HasFocus) &&
-                             (combo->editable || Has(*option, State_KeyboardFocusChange));
         QStyleOptionComboBox field = *combo;
         if (combo->editable) {
             field.palette.setColor(QPalette::Button, combo->palette.color(QPalette::Base));
             field.state &= ~State_Sunken;
         }
         field.state &= ~State_On;
-        DrawButtonSurface(*painter, field, focused);
+        DrawButton(*painter, field);
         DrawArrow(*painter, subControlRect(control, option, SC_ComboBoxArrow, widget), *option);
     } else if (control == CC_GroupBox && group != nullptr) {
         DrawGroup(*painter, *group);

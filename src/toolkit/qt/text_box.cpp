@@ -29,6 +29,10 @@ class TextBoxWidget final : public QLineEdit, public NativeControl {
             const QSignalBlocker guard(this);
             setText(shown);
         }
+        if (box_.Has(toolkit::IsPath)) {
+            const auto name = static_cast<int>(shown.lastIndexOf(QLatin1Char('/')) + 1);
+            setSelection(name, static_cast<int>(shown.lastIndexOf(QLatin1Char('.'))) - name);
+        }
     }
 
   private:

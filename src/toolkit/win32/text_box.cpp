@@ -20,6 +20,10 @@ class NativeTextBox : public NativeControl {
     void OnPropertyChanged(Property property, int row) override {
         NativeControl::OnPropertyChanged(property == Property::Text ? Property::Caption : property,
                                          row);
+        if (property == Property::Text && box_.Has(toolkit::IsPath)) {
+            const std::wstring shown = CaptionText();
+            Send(EM_SETSEL, shown.rfind(L'\\') + 1, static_cast<LPARAM>(shown.rfind(L'.')));
+        }
     }
 
     void OnCreated() override { Send(EM_SETLIMITTEXT); }  // no limit
