@@ -3,7 +3,6 @@
 
 #include <QAbstractEventDispatcher>
 #include <QApplication>
-#include <QContextMenuEvent>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTest>
@@ -50,8 +49,7 @@ TEST_F(QtWindow, HasAccessibleNamesAndTakesKeys) {
         asked = button == toolkit::MouseButton::Right &&
                 desktop::ItemFromPoint(form.lstRows, static_cast<int>(x), static_cast<int>(y)) == 0;
     };
-    QContextMenuEvent menuKey(QContextMenuEvent::Keyboard, {}, {});
-    QApplication::sendEvent(&WidgetOf(form.lstRows), &menuKey);
+    QTest::keyClick(&WidgetOf(form.lstRows), Qt::Key_F10, Qt::ShiftModifier);
     EXPECT_TRUE(asked) << "for the menu of the selected row";
 }
 

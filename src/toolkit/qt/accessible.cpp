@@ -3,6 +3,7 @@
 #include <QAccessibleWidget>
 
 #include "toolkit/qt/native_window.h"
+#include "toolkit/qt/text.h"
 
 namespace desktop {
 namespace {
@@ -26,17 +27,16 @@ class AccessibleLink final : public QAccessibleWidget {
         : QAccessibleWidget(&widget, QAccessible::Link), link_(link) {}
 
     QString text(QAccessible::Text text) const override {
-        switch (text) {
-            case QAccessible::Name:
-                return QString::fromStdString(link_.Caption());
-            case QAccessible::Accelerator:
-                return QStringLiteral("Alt+") + QLatin1Char(link_.Access());
-            default:
-                return QAccessibleWidget::text(text);
-        }
+        return text == QAccessible::Name ? Decode(link_.Caption()) : QAccessibleWidget::text(text);
     }
 
     QStringList actionNames() const override { return {pressAction(), setFocusAction()}; }
+
+    QStringList keyBindingsForAction(const QString& action) const override {
+        return action == setFocusAction()
+                   ? QStringList(QStringLiteral("Alt+") + QLatin1Char(link_.Access()))
+                   : QStringList();
+    }
 
     void doAction(const QString& action) override {
         if (action == pressAction()) {

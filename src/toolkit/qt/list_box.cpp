@@ -1,5 +1,6 @@
 #include <QContextMenuEvent>
 #include <QHelpEvent>
+#include <QKeyEvent>
 #include <QListView>
 #include <QMouseEvent>
 #include <QScopedValueRollback>
@@ -91,13 +92,18 @@ class ListBoxWidget final : public QListView, public NativeControl {
         }
     }
 
-    /// The menu key opens the menu below the selected row.
+    /// Qt sends it for the menu key, but not for Shift+F10.
     void contextMenuEvent(QContextMenuEvent* event) override {
-        if (event->reason() == QContextMenuEvent::Keyboard && list_.ListIndex() >= 0) {
-            scrollTo(currentIndex());
-            const QPoint point = visualRect(currentIndex()).center();
-            static_cast<NativeWindow*>(window())->SetMenuPosition(viewport()->mapToGlobal(point));
-            list_.UserReleasesButton(toolkit::MouseButton::Right, point.x(), point.y());
+        if (event->reason() == QContextMenuEvent::Keyboard) {
+            OpenMenu();
+        }
+    }
+
+    void keyPressEvent(QKeyEvent* event) override {
+        if (event->key() == Qt::Key_F10 && event->modifiers() == Qt::ShiftModifier) {
+            OpenMenu();
+        } else {
+            QListView::keyPressEvent(event);
         }
     }
 
@@ -124,6 +130,16 @@ class ListBoxWidget final : public QListView, public NativeControl {
     }
 
   private:
+    /// Reports a right click on the selected row.
+    void OpenMenu() {
+        if (list_.ListIndex() >= 0) {
+            scrollTo(currentIndex());
+            const QPoint point = visualRect(currentIndex()).center();
+            static_cast<NativeWindow*>(window())->SetMenuPosition(viewport()->mapToGlobal(point));
+            list_.UserReleasesButton(toolkit::MouseButton::Right, point.x(), point.y());
+        }
+    }
+
     void ReportSelection() {
         const QModelIndexList selected = selectedIndexes();
         if (!selected.isEmpty()) {
