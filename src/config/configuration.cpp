@@ -58,10 +58,8 @@ platform::Outcome clsConfiguration::SaveConfiguration(const std::string& fileNam
                                                       std::string_view newLine,
                                                       bool whitespace) const {
     try {
-        const std::string text =
-            OutputBlock(*configurationRoot_, 0, newLine, whitespace, LargestText);
-        return text.size() <= LargestText
-                   ? platform::ReplaceWholeFile(fileName, text)
+        return OutputFits(*configurationRoot_, newLine, whitespace, LargestText)
+                   ? platform::ReplaceWholeFile(fileName, OutputConfiguration(newLine, whitespace))
                    : platform::Outcome{false, "The text would be larger than 64 MiB"};
     } catch (const std::bad_alloc&) {
         return OutOfMemory();

@@ -32,12 +32,14 @@ void AppendEscaped(std::string& output, std::string_view text) {
 /// Writes without recursion, so that the depth of a document is limited by memory only.
 class Writer {
   public:
-    Writer(std::size_t level, std::string_view newLine, bool whitespace, std::size_t limit)
-        : outerLevel_(level), newLine_(newLine), whitespace_(whitespace), limit_(limit) {}
+    Writer(std::size_t level, std::string_view newLine, bool whitespace)
+        : outerLevel_(level), newLine_(newLine), whitespace_(whitespace) {}
 
     std::string Write(const ConfigMap& map);
+    bool Fits(const ConfigMap& map, std::size_t limit);
 
   private:
+    void WriteNext();
     void WriteEntry(const ConfigEntry& entry);
     void WriteSetting(const ConfigEntry& entry);
     void OpenStructure(const std::string& key, const ConfigMap& map);
@@ -49,7 +51,6 @@ class Writer {
     std::size_t outerLevel_;
     std::string_view newLine_;
     bool whitespace_;
-    std::size_t limit_;
     std::string output_;
     /// The entries left to write of each open structure, the root first.
     std::vector<std::span<const ConfigEntry>> open_;
@@ -57,18 +58,33 @@ class Writer {
 
 std::string Writer::Write(const ConfigMap& map) {
     open_.push_back(map.Entries());
-    while (!open_.empty() && output_.size() <= limit_) {
-        std::span<const ConfigEntry>& rest = open_.back();
-        if (!rest.empty()) {
-            const ConfigEntry& entry = rest.front();
-            rest = rest.subspan(1);
-            WriteEntry(entry);
-        } else {
-            open_.pop_back();
-            CloseStructure();
-        }
+    while (!open_.empty()) {
+        WriteNext();
     }
     return std::move(output_);
+}
+
+bool Writer::Fits(const ConfigMap& map, std::size_t limit) {
+    open_.push_back(map.Entries());
+    while (!open_.empty() && output_.size() <= limit) {
+        limit -= output_.size();
+        output_.clear();
+        WriteNext();
+    }
+    return output_.size() <= limit;
+}
+
+/// Writes the next entry, or the end of the innermost structure.
+void Writer::WriteNext() {
+    std::span<const ConfigEntry>& rest = open_.back();
+    if (!rest.empty()) {
+        const ConfigEntry& entry = rest.front();
+        rest = rest.subspan(1);
+        WriteEntry(entry);
+    } else {
+        open_.pop_back();
+        CloseStructure();
+    }
 }
 
 void Writer::WriteEntry(const ConfigEntry& entry) {
@@ -136,6 +152,11 @@ bool KeyCanBeReadBack(std::string_view key) {
 }
 
 std::string OutputBlock(const ConfigMap& map, std::size_t level, std::string_view newLine,
-                        bool whitespace, std::size_t limit) {
-    return Writer(level, newLine, whitespace, limit).Write(map);
+                        bool whitespace) {
+    return Writer(level, newLine, whitespace).Write(map);
+}
+
+bool OutputFits(const ConfigMap& root, std::string_view newLine, bool whitespace,
+                std::size_t limit) {
+    return Writer(0, newLine, whitespace).Fits(root, limit);
 }

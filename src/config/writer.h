@@ -15,8 +15,12 @@ bool KeyCanBeReadBack(std::string_view key);
 
 /// The text form of a map at nesting level `level`, 0 for a document's root. `newLine` ends each
 /// line. `whitespace` chooses the readable form: a TAB per level, spaces around "=" and an empty
-/// line before and after a structure. Keys are written unchanged. Writing stops once the text is
-/// larger than `limit` bytes, because indents grow with the square of the depth: such a text is cut
-/// off.
+/// line before and after a structure. Keys are written unchanged.
 std::string OutputBlock(const ConfigMap& map, std::size_t level, std::string_view newLine,
-                        bool whitespace, std::size_t limit = std::string::npos);
+                        bool whitespace);
+
+/// Whether the text form of a document has at most `limit` bytes. Holds only one line of it:
+/// indents grow with the square of the depth, so a small file may have a text that memory cannot
+/// hold.
+bool OutputFits(const ConfigMap& root, std::string_view newLine, bool whitespace,
+                std::size_t limit);
