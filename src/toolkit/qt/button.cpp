@@ -46,7 +46,9 @@ class PictureButtonWidget final : public ButtonWidget {
         const int side = fontMetrics().height() * 8 / 7;
         setIconSize(QSize(side, side));
         QIcon icon;
-        const QColor color = IsDark(palette()) ? QColor(0xFF, 0x8B, 0x5C) : Accent;
+        const QColor color = HasStrongContrast(palette()) ? palette().color(QPalette::ButtonText)
+                             : IsDark(palette())          ? QColor(0xFF, 0x8B, 0x5C)
+                                                          : Accent;
         icon.addPixmap(Draw(color), QIcon::Normal);
         icon.addPixmap(Draw(Blend(color, palette().color(QPalette::Window), 0.6)), QIcon::Disabled);
         setIcon(icon);
@@ -66,7 +68,7 @@ class PictureButtonWidget final : public ButtonWidget {
     std::string_view name_;
 };
 
-/// The button in the color of the program, the same on every desktop.
+/// The button in the color of the program, the same on every desktop but those of strong contrast.
 class AccentButtonWidget final : public ButtonWidget {
   public:
     AccentButtonWidget(toolkit::Button& button, QWidget& parent) : ButtonWidget(button, parent) {
@@ -82,12 +84,13 @@ class AccentButtonWidget final : public ButtonWidget {
         initStyleOption(&option);
         QPainter painter(this);
         painter.setRenderHint(QPainter::Antialiasing);
-        DrawBox(painter, Fill(option), Accent.darker(128), 0.5);
+        QColor color = TextOnAccent(palette());
+        DrawBox(painter, Fill(option), AccentOf(palette()).darker(128), 0.5);
         if (hasFocus()) {
-            DrawBox(painter, Qt::transparent, Qt::white, 3.5);
+            DrawBox(painter, Qt::transparent, color, 3.5);
         }
-        const double strength = isEnabled() ? 1 : 0.6;
-        painter.setPen(QColor::fromRgbF(1, 1, 1, static_cast<float>(strength)));
+        color.setAlphaF(isEnabled() ? 1.0F : 0.6F);
+        painter.setPen(color);
         const bool underlined =
             style()->styleHint(QStyle::SH_UnderlineShortcut, &option, this) != 0;
         painter.drawText(
@@ -103,13 +106,14 @@ class AccentButtonWidget final : public ButtonWidget {
     }
 
     static QColor Fill(const QStyleOptionButton& option) {
+        const QColor accent = AccentOf(option.palette);
         if (!option.state.testFlag(QStyle::State_Enabled)) {
-            return Blend(Accent, option.palette.color(QPalette::Window), 0.5);
+            return Blend(accent, option.palette.color(QPalette::Window), 0.5);
         }
         if (option.state.testFlag(QStyle::State_Sunken)) {
-            return Accent.darker(125);
+            return accent.darker(125);
         }
-        return option.state.testFlag(QStyle::State_MouseOver) ? Accent.lighter(112) : Accent;
+        return option.state.testFlag(QStyle::State_MouseOver) ? accent.lighter(112) : accent;
     }
 };
 

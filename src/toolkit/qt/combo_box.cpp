@@ -1,6 +1,8 @@
 #include <QComboBox>
+#include <QHelpEvent>
 #include <QLineEdit>
 #include <QSignalBlocker>
+#include <QToolTip>
 #include <QWheelEvent>
 
 #include "toolkit/qt/controls.h"
@@ -38,6 +40,16 @@ class ComboWidget : public QComboBox, public NativeControl {
         } else {
             event->ignore();
         }
+    }
+
+    /// Shows a text that does not fit.
+    bool event(QEvent* event) override {
+        if (event->type() == QEvent::ToolTip && toolTip().isEmpty() &&
+            fontMetrics().horizontalAdvance(currentText()) > width() - height()) {
+            QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), currentText(), this);
+            return true;
+        }
+        return QComboBox::event(event);
     }
 
     void Apply(Property property, int row) override {

@@ -1,5 +1,8 @@
 #include "toolkit/qt/item_model.h"
 
+#include <QFontMetrics>
+#include <QGuiApplication>
+
 #include "toolkit/qt/text.h"
 
 namespace desktop {
@@ -12,6 +15,9 @@ int ItemModel::rowCount(const QModelIndex& parent) const {
 }
 
 QVariant ItemModel::data(const QModelIndex& index, int role) const {
+    if (role == Qt::SizeHintRole) {
+        return QSize(0, QFontMetrics(QGuiApplication::font()).height() * 3 / 2);
+    }
     const bool isText = role == Qt::DisplayRole || role == Qt::EditRole;
     if (!isText || !index.isValid() || index.row() >= list_.ListCount()) {
         return {};

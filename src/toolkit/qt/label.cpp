@@ -81,7 +81,8 @@ class LabelWidget final : public QLabel, public NativeControl {
         }
         if (label_.Has(toolkit::Quiet)) {
             const QColor strong = palette().color(QPalette::WindowText);
-            SetColor(Blend(strong, palette().color(QPalette::Window), QuietShare));
+            const double share = HasStrongContrast(palette()) ? 0 : QuietShare;
+            SetColor(Blend(strong, palette().color(QPalette::Window), share));
         }
         if (label_.Has(toolkit::Sunken)) {
             setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);

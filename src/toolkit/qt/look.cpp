@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QFontInfo>
 #include <QStyle>
+#include <cstdlib>
 
 #include "toolkit/qt/style.h"
 
@@ -55,6 +56,19 @@ bool IsDark(const QPalette& palette) {
            palette.color(QPalette::WindowText).lightness();
 }
 
+bool HasStrongContrast(const QPalette& palette) {
+    const int window = palette.color(QPalette::Window).lightness();
+    return std::abs(window - palette.color(QPalette::WindowText).lightness()) == 255;
+}
+
+QColor AccentOf(const QPalette& palette) {
+    return HasStrongContrast(palette) ? palette.color(QPalette::Highlight) : Accent;
+}
+
+QColor TextOnAccent(const QPalette& palette) {
+    return HasStrongContrast(palette) ? palette.color(QPalette::HighlightedText) : Qt::white;
+}
+
 QColor Blend(const QColor& from, const QColor& to, double share) {
     const auto mix = [share](int a, int b) { return a + static_cast<int>((b - a) * share); };
     return {mix(from.red(), to.red()), mix(from.green(), to.green()), mix(from.blue(), to.blue())};
@@ -69,7 +83,10 @@ void ApplyLook() {
     if (QApplication::style()->name() != QLatin1String("fusion")) {
         return;
     }
-    QApplication::setPalette(WarmPalette(QApplication::palette(), IsDark(QApplication::palette())));
+    const QPalette desktop = QApplication::palette();
+    if (!HasStrongContrast(desktop)) {
+        QApplication::setPalette(WarmPalette(desktop, IsDark(desktop)));
+    }
     QApplication::setStyle(new Style);  // the application takes ownership
 }  // NOLINT(clang-analyzer-cplusplus.NewDeleteLeaks)
 

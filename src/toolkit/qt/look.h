@@ -16,6 +16,14 @@ void ApplyLook();
 
 bool IsDark(const QPalette& palette);
 
+/// Whether the desktop asks for strong contrast: black on white, or white on black. Its colors then
+/// replace ours.
+bool HasStrongContrast(const QPalette& palette);
+
+/// The accent color, and that of texts on it, or the desktop's selection with strong contrast.
+QColor AccentOf(const QPalette& palette);
+QColor TextOnAccent(const QPalette& palette);
+
 /// Returns the color at `share` (0 to 1) of the way from `from` to `to`.
 QColor Blend(const QColor& from, const QColor& to, double share);
 

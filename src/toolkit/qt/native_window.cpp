@@ -1,6 +1,7 @@
 #include "toolkit/qt/native_window.h"
 
 #include <QCloseEvent>
+#include <QFontInfo>
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QLabel>
@@ -25,11 +26,19 @@ struct UnitSize {
     double height;
 };
 
-UnitSize UnitsOf(const QFont& font) {
+/// The place for a window on a screen, less a title bar.
+QSize RoomOn(const QScreen* screen) {
+    constexpr int TitleBarHeight = 40;
+    return screen->availableSize() - QSize(0, TitleBarHeight);
+}
+
+/// A unit of height is an eighth of the font's height, and up to a seventh where the window has
+/// room.
+UnitSize UnitsOf(const QFont& font, double room) {
     const QString letters = QStringLiteral("ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz");
     const QFontMetricsF metrics(font);
     const double average = metrics.horizontalAdvance(letters) / static_cast<double>(letters.size());
-    return {average / 4, metrics.height() / 8};
+    return {average / 4, std::clamp(room, metrics.height() / 8, metrics.height() / 7)};
 }
 
 /// Rounds the edges instead of the sizes, so that edges that are equal in units are equal in
@@ -58,12 +67,32 @@ NativeWindow::NativeWindow(toolkit::Window& window)
     : QWidget(nullptr, FlagsOf(window.Spec())), window_(window) {
     setWindowTitle(DisplayText(window.Caption()));
     setMouseTracking(true);
+    setLayoutDirection(Qt::LeftToRight);  // as the places say
+    FitFont();
     // Later widgets are drawn above earlier ones.
     MakeControls(true);
     MakeControls(false);
     PlaceControls();
     SetTabOrder();
     NameControls();
+}
+
+/// Takes a smaller font until the window fits the screen.
+void NativeWindow::FitFont() {
+    constexpr double SmallestPointSize = 4;
+    const QSize room = RoomOn(screen());
+    QFont smaller = font();
+    for (double size = QFontInfo(smaller).pointSizeF(); size > SmallestPointSize; size *= 0.95) {
+        const UnitSize unit = UnitsOf(smaller, 0);
+        if (unit.width * window_.Spec().width <= room.width() &&
+            unit.height * window_.Spec().height <= room.height()) {
+            break;
+        }
+        smaller.setPointSizeF(size);
+    }
+    if (smaller != font()) {
+        setFont(smaller);
+    }
 }
 
 void NativeWindow::MakeControls(bool background) {
@@ -110,7 +139,8 @@ QWidget& NativeWindow::ParentOf(const toolkit::Control& control) {
 }
 
 void NativeWindow::PlaceControls() {
-    const UnitSize unit = UnitsOf(font());
+    const UnitSize unit =
+        UnitsOf(font(), RoomOn(screen()).height() / static_cast<double>(window_.Spec().height));
     setFixedSize(InPixels({0, 0, window_.Spec().width, window_.Spec().height}, unit).size());
     if (QGuiApplication::platformName() == QLatin1String("wayland")) {
         // Its title bars offer to maximise any window. One that cannot take the size is killed.
@@ -177,7 +207,8 @@ void NativeWindow::Center(const QWidget* owner) {
     const QScreen* where = owner != nullptr ? owner->screen() : QGuiApplication::primaryScreen();
     if (where != nullptr) {
         const QRect area = where->availableGeometry();
-        move(area.center() - rect().center());
+        const QPoint corner = area.center() - rect().center();
+        move(std::max(corner.x(), area.x()), std::max(corner.y(), area.y()));
     }
 }
 
@@ -297,7 +328,7 @@ void NativeWindow::hideEvent(QHideEvent* event) {
 /// The desktop's font may change while the window exists.
 void NativeWindow::changeEvent(QEvent* event) {
     QWidget::changeEvent(event);
-    if (event->type() == QEvent::FontChange) {
+    if (event->type() == QEvent::FontChange && !natives_.empty()) {
         PlaceControls();
     } else if (event->type() == QEvent::ActivationChange) {
         UnderlineAccessKeys(false);

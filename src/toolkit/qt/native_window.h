@@ -49,6 +49,7 @@ class NativeWindow final : public QWidget {
     void resizeEvent(QResizeEvent* event) override;
 
   private:
+    void FitFont();
     void MakeControls(bool background);
     void Add(toolkit::Control& control);
     QWidget& ParentOf(const toolkit::Control& control);

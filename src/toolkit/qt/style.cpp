@@ -1,5 +1,6 @@
 #include "toolkit/qt/style.h"
 
+#include <QApplication>
 #include <QComboBox>
 #include <QPainter>
 #include <QPainterPath>
@@ -11,7 +12,7 @@ namespace desktop {
 namespace {
 
 constexpr double CornerRadius = 4;
-/// Additional space to the left of the text in a combo box, in pixels.
+/// Additional space beside the text in a field, in pixels.
 constexpr int TextInset = 4;
 
 /// Draws a rounded surface with its outline inside `rect`.
@@ -31,6 +32,9 @@ bool Has(const QStyleOption& option, QStyle::StateFlag flag) {
 }
 
 QColor Outline(const QStyleOption& option) {
+    if (HasStrongContrast(option.palette)) {
+        return option.palette.color(QPalette::WindowText);
+    }
     return Has(option, QStyle::State_Enabled) ? option.palette.color(QPalette::Mid)
                                               : Blend(option.palette.color(QPalette::Mid),
                                                       option.palette.color(QPalette::Window), 0.5);
@@ -51,8 +55,10 @@ QColor ButtonFill(const QStyleOption& option) {
 }
 
 QPen FocusPen(const QStyleOption& option) {
-    const QColor color = IsDark(option.palette) ? Accent.lighter(160) : Accent;
-    return {color, 1.6};
+    if (HasStrongContrast(option.palette)) {
+        return {option.palette.color(QPalette::WindowText), 2.5};
+    }
+    return {IsDark(option.palette) ? Accent.lighter(160) : Accent, 1.6};
 }
 
 QPen EdgePen(const QStyleOption& option) {
@@ -71,14 +77,14 @@ void DrawButton(QPainter& painter, const QStyleOption& option) {
                 isMarked ? QPen(option.palette.color(QPalette::Dark), 1.6) : EdgePen(option));
 }
 
-void DrawCheckMark(QPainter& painter, const QRect& box) {
+void DrawCheckMark(QPainter& painter, const QRect& box, const QColor& color) {
     const QTransform unit(box.width() / 14.0, 0, 0, box.height() / 14.0, box.x(), box.y());
     QPainterPath mark({3.2, 7.4});
     mark.lineTo(6, 10.2);
     mark.lineTo(11, 4.4);
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(Qt::white, box.width() / 7.5, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.setPen(QPen(color, box.width() / 7.5, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     painter.drawPath(unit.map(mark));
     painter.restore();
 }
@@ -86,7 +92,7 @@ void DrawCheckMark(QPainter& painter, const QRect& box) {
 void DrawCheckBox(QPainter& painter, const QStyleOption& option) {
     const bool checked = Has(option, QStyle::State_On);
     const QColor base = option.palette.color(QPalette::Base);
-    QColor fill = checked ? Accent : base;
+    QColor fill = checked ? AccentOf(option.palette) : base;
     if (!Has(option, QStyle::State_Enabled)) {
         fill = Blend(fill, option.palette.color(QPalette::Window), 0.6);
     } else if (Has(option, QStyle::State_Sunken)) {
@@ -94,10 +100,13 @@ void DrawCheckBox(QPainter& painter, const QStyleOption& option) {
     } else if (Has(option, QStyle::State_MouseOver)) {
         fill = Blend(fill, option.palette.color(QPalette::Highlight), checked ? 0.15 : 0.5);
     }
-    const QColor outline = checked ? Accent.darker(130) : option.palette.color(QPalette::Dark);
-    DrawSurface(painter, option.rect, fill, QPen(outline, 1), 3);
+    const QColor outline = checked ? fill.darker(130)
+                           : HasStrongContrast(option.palette)
+                               ? Outline(option)
+                               : option.palette.color(QPalette::Dark);
+    DrawSurface(painter, option.rect, fill, QPen(outline, 1), option.rect.width() / 5.0);
     if (checked) {
-        DrawCheckMark(painter, option.rect);
+        DrawCheckMark(painter, option.rect, TextOnAccent(option.palette));
     }
 }
 
@@ -125,17 +134,21 @@ void DrawGroup(QPainter& painter, const QStyleOptionGroupBox& group) {
         painter.setClipRegion(QRegion(group.rect).subtracted(text.adjusted(-gap, 0, gap, 0)));
     }
     DrawSurface(painter, group.rect.adjusted(0, textHeight / 2, 0, 0), Qt::NoBrush,
-                QPen(group.palette.color(QPalette::Mid), 1), CornerRadius + 1);
+                QPen(Outline(group), 1), CornerRadius + 1);
     painter.restore();
     painter.setPen(group.palette.color(QPalette::WindowText));
     painter.drawText(text, Qt::AlignLeft | Qt::AlignVCenter, group.text);
+}
+
+bool IsInCombo(const QWidget* widget) {
+    return widget != nullptr && qobject_cast<QComboBox*>(widget->parentWidget()) != nullptr;
 }
 
 }  // namespace
 
 void Style::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                           const QWidget* widget) const {
-    const bool inCombo = widget != nullptr && qobject_cast<QComboBox*>(widget->parentWidget());
+    const bool inCombo = IsInCombo(widget);
     if (element == PE_PanelButtonCommand) {
         DrawButton(*painter, *option);
     } else if (element == PE_IndicatorCheckBox) {
@@ -150,7 +163,12 @@ void Style::drawPrimitive(PrimitiveElement element, const QStyleOption* option, 
     } else if (element == PE_PanelLineEdit && !inCombo) {
         DrawSurface(*painter, option->rect, option->palette.color(QPalette::Base),
                     EdgePen(*option));
-    } else if (element == PE_Frame && !inCombo) {
+    } else if (element == PE_FrameMenu || (element == PE_Frame && inCombo)) {
+        DrawSurface(*painter, option->rect, Qt::NoBrush, QPen(Outline(*option), 1), 0);
+    } else if (element == PE_PanelTipLabel) {
+        DrawSurface(*painter, option->rect, option->palette.color(QPalette::ToolTipBase),
+                    QPen(Outline(*option), 1), 0);
+    } else if (element == PE_Frame) {
         // Small corners, because the rows inside have square ones.
         DrawSurface(*painter, option->rect, Qt::NoBrush, EdgePen(*option), 1.5);
     } else if (element != PE_PanelLineEdit) {
@@ -188,6 +206,14 @@ QRect Style::subControlRect(ComplexControl control, const QStyleOptionComplex* o
     return isText ? rect.adjusted(TextInset, 0, 0, 0) : rect;
 }
 
+QRect Style::subElementRect(SubElement element, const QStyleOption* option,
+                            const QWidget* widget) const {
+    const QRect rect = QProxyStyle::subElementRect(element, option, widget);
+    return element == SE_LineEditContents && !IsInCombo(widget)
+               ? rect.adjusted(TextInset, 0, -TextInset, 0)
+               : rect;
+}
+
 int Style::pixelMetric(PixelMetric metric, const QStyleOption* option,
                        const QWidget* widget) const {
     switch (metric) {
@@ -195,7 +221,13 @@ int Style::pixelMetric(PixelMetric metric, const QStyleOption* option,
         case PM_ButtonShiftVertical:
             return 0;
         case PM_FocusFrameHMargin:  // to the left and right of the text of rows
-            return 6;
+            // The file dialogs measure their columns without it.
+            return widget != nullptr && widget->window()->inherits("QFileDialog") ? 2 : 6;
+        case PM_IndicatorWidth:
+        case PM_IndicatorHeight:
+            return QFontMetrics(widget != nullptr ? widget->font() : QApplication::font())
+                       .height() -
+                   1;
         case PM_CheckBoxLabelSpacing:
         case PM_HeaderMargin:
             return 8;

@@ -11,7 +11,6 @@ namespace {
 class TextBoxWidget final : public QLineEdit, public NativeControl {
   public:
     TextBoxWidget(toolkit::TextBox& box, QWidget& parent) : QLineEdit(&parent), box_(box) {
-        setTextMargins(4, 0, 4, 0);
         Apply(Property::Text, -1);
         connect(this, &QLineEdit::textChanged, this,
                 [this](const QString& typed) { box_.UserTypes(Encode(typed)); });
