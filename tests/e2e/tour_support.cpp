@@ -16,6 +16,16 @@
 namespace tour {
 namespace {
 
+/// Widgets that the simulated pointer left while a dialog was open still look hovered.
+void ForgetPointer() {
+    for (QWidget* widget : QApplication::allWidgets()) {
+        if (widget->underMouse()) {
+            widget->setAttribute(Qt::WA_UnderMouse, false);
+            widget->update();
+        }
+    }
+}
+
 void Save(const QPixmap& pixmap, const std::string& name) {
     const QDir pictures(pictureFolder.c_str(), "*.png");
     const QString number = QString::number(100 + pictures.count() + 1).mid(1);
@@ -69,11 +79,13 @@ QWidget& Front() {
 
 void Picture(const std::string& name) {
     constexpr int SettleTime = 120;
+    ForgetPointer();
     QTest::qWait(SettleTime);
     Save(QGuiApplication::primaryScreen()->grabWindow(), name);
 }
 
 void Portrait(const std::string& name) {
+    ForgetPointer();
     Save(Front().grab(), name);
 }
 
