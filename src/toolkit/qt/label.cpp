@@ -1,6 +1,5 @@
 #include <QLabel>
 #include <QMouseEvent>
-#include <QShortcut>
 #include <QStyleOption>
 #include <QStylePainter>
 
@@ -39,6 +38,14 @@ class LabelWidget final : public QLabel, public NativeControl {
     }
 
   protected:
+    bool event(QEvent* event) override {
+        if (Link() != nullptr && event->type() == QEvent::Shortcut) {
+            setFocus(Qt::ShortcutFocusReason);
+            return true;
+        }
+        return QLabel::event(event);
+    }
+
     void mouseReleaseEvent(QMouseEvent* event) override {
         const bool inside = rect().contains(event->position().toPoint());
         if (Link() != nullptr && event->button() == Qt::LeftButton && inside) {
@@ -107,9 +114,7 @@ class LabelWidget final : public QLabel, public NativeControl {
         SetColor(palette().color(QPalette::Link));
         setCursor(Qt::PointingHandCursor);
         setFocusPolicy(Qt::StrongFocus);
-        auto* accessKey = new QShortcut(QKeySequence(Qt::ALT | Qt::Key(label_.Access())), this);
-        connect(accessKey, &QShortcut::activated, this,
-                [this] { setFocus(Qt::ShortcutFocusReason); });
+        grabShortcut(QKeySequence(Qt::ALT | Qt::Key(label_.Access())));
     }
 
     void SetColor(const QColor& color) {
