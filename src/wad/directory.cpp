@@ -74,15 +74,19 @@ std::string WadDirectory::Name(std::int32_t index) const {
 }
 
 std::int32_t WadDirectory::Find(std::string_view name, std::int32_t start) const {
-    for (std::int32_t index = start; index < StoredCount(); ++index) {
-        LumpNameField field = NameField(index);
+    const std::int32_t stored = StoredCount();
+    const char initial = name.empty() ? '\0' : name.front();
+    const char* first = bytes_.data() + ByteOffset(start) + NameOffset;
+    for (std::int32_t index = start; index < stored; ++index, first += EntryBytes) {
         // The first character rules out most entries, unless it is padding.
-        const bool isPossible = name.starts_with(field[0]) || field[0] == '\0' || field[0] == ' ';
-        if (isPossible && StripLumpName(field) == name) {
-            return index;
+        if (*first == initial || *first == '\0' || *first == ' ') {
+            LumpNameField field = NameField(index);
+            if (StripLumpName(field) == name) {
+                return index;
+            }
         }
     }
-    const std::int32_t nameless = std::max(start, StoredCount());
+    const std::int32_t nameless = std::max(start, stored);
     return name.empty() && nameless < count_ ? nameless : -1;
 }
 
