@@ -73,7 +73,15 @@ QWidget& Front() {
         QWidget* modal = QApplication::activeModalWidget();
         return modal != nullptr ? modal : QApplication::activeWindow();
     };
-    Until([&] { return front() != nullptr && front()->isActiveWindow(); }, "a window in front");
+    const auto isActive = [&] {
+        if (front() == nullptr) {  // a game or a menu that closed may leave the focus nowhere
+            for (QWidget* window : QApplication::topLevelWidgets()) {
+                window->activateWindow();
+            }
+        }
+        return front() != nullptr && front()->isActiveWindow();
+    };
+    Until(isActive, "a window in front");
     return *front();
 }
 
