@@ -187,8 +187,13 @@ Look LookAt(const toolkit::Control& control) {
                  .visible = IsWindowVisible(handle) != 0,
                  .focused = handle == GetFocus() || IsChild(handle, GetFocus()) != 0};
     const Kind kind = control.GetKind();
+    const bool isStatic = kind == Kind::Label && !control.Has(toolkit::Link);
     if (control.Has(toolkit::Link)) {
         look.text = ReplaceAll(ReplaceAll(look.text, "<a>", ""), "</a>", "");
+    } else if (kind == Kind::Button || kind == Kind::CheckBox ||
+               (isStatic && (GetWindowLongW(handle, GWL_STYLE) & SS_NOPREFIX) == 0)) {
+        // A single one marks an access key.
+        look.text = ReplaceAll(ReplaceAll(ReplaceAll(look.text, "&&", "\1"), "&", ""), "\1", "&");
     }
     if (kind == Kind::ListView) {
         for (WPARAM row = 0; row < static_cast<WPARAM>(Ask(control, LVM_GETITEMCOUNT)); ++row) {
@@ -202,7 +207,6 @@ Look LookAt(const toolkit::Control& control) {
         look.items = ItemsOf(control, CB_GETCOUNT, CB_GETLBTEXT);
         look.index = static_cast<int>(Ask(control, CB_GETCURSEL));
     } else if (kind == Kind::Button || kind == Kind::CheckBox) {
-        look.text = ReplaceAll(look.text, "&&", "&");  // it would mark an access key
         look.checked = Ask(control, BM_GETCHECK) == BST_CHECKED;
     }
     return look;

@@ -81,13 +81,15 @@ NativeWindow::NativeWindow(toolkit::Window& window)
 void NativeWindow::FitFont() {
     constexpr double SmallestPointSize = 4;
     const QSize room = RoomOn(screen());
+    const auto fits = [&](const QFont& font) {
+        const UnitSize unit = UnitsOf(font, 0);
+        return unit.width * window_.Spec().width <= room.width() &&
+               unit.height * window_.Spec().height <= room.height();
+    };
     QFont smaller = font();
-    for (double size = QFontInfo(smaller).pointSizeF(); size > SmallestPointSize; size *= 0.95) {
-        const UnitSize unit = UnitsOf(smaller, 0);
-        if (unit.width * window_.Spec().width <= room.width() &&
-            unit.height * window_.Spec().height <= room.height()) {
-            break;
-        }
+    double size = QFontInfo(smaller).pointSizeF();
+    while (size > SmallestPointSize && !fits(smaller)) {
+        size *= 0.95;
         smaller.setPointSizeF(size);
     }
     if (smaller != font()) {
@@ -219,9 +221,11 @@ void NativeWindow::RunUntilHidden() {
 }
 
 void NativeWindow::IgnoreEscape() {
-    ignoresEscape_ = true;
-    QMetaObject::invokeMethod(
-        this, [this] { ignoresEscape_ = false; }, Qt::QueuedConnection);
+    ignoresEscape_.start(0, this);
+}
+
+void NativeWindow::timerEvent(QTimerEvent*) {
+    ignoresEscape_.stop();
 }
 
 void NativeWindow::DeleteLater() {
@@ -289,7 +293,7 @@ void NativeWindow::keyPressEvent(QKeyEvent* event) {
             PressButton(toolkit::Default);
         }
     } else if (plain && event->key() == Qt::Key_Escape) {
-        if (ignoresEscape_) {
+        if (ignoresEscape_.isActive()) {
             return;
         }
         if (!PressButton(toolkit::Cancel) && window_.Spec().dialog) {
@@ -333,7 +337,7 @@ void NativeWindow::changeEvent(QEvent* event) {
     } else if (event->type() == QEvent::ActivationChange) {
         UnderlineAccessKeys(false);
     } else if (event->type() == QEvent::WindowStateChange && isMaximized()) {
-        QMetaObject::invokeMethod(this, &QWidget::showNormal, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(this, "showNormal", Qt::QueuedConnection);
     }
 }
 

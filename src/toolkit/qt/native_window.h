@@ -1,6 +1,7 @@
 // A window as a Qt widget.
 #pragma once
 
+#include <QBasicTimer>
 #include <QCursor>
 #include <QEventLoop>
 #include <QHash>
@@ -47,6 +48,7 @@ class NativeWindow final : public QWidget {
     void hideEvent(QHideEvent* event) override;
     void changeEvent(QEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
+    void timerEvent(QTimerEvent* event) override;
 
   private:
     void FitFont();
@@ -63,7 +65,7 @@ class NativeWindow final : public QWidget {
     toolkit::Window& window_;
     QEventLoop* modalLoop_ = nullptr;  // while it is shown modally
     std::optional<QPoint> menuPosition_;
-    bool ignoresEscape_ = false;
+    QBasicTimer ignoresEscape_;  // active until the event loop runs
     std::unordered_map<const toolkit::Control*, NativeControl*> natives_;
     QHash<const QObject*, toolkit::Control*> surfaces_;  // by the widget that receives mouse events
 };

@@ -65,11 +65,12 @@ void AccentButton::DrawItem(const DRAWITEMSTRUCT& item) {
 
     const auto font = reinterpret_cast<HFONT>(Send(WM_GETFONT));
     const Chosen fontChosen(item.hDC, font);
-    const std::wstring text = platform::Wide(button_.Caption());
+    const std::wstring text = MarkAccessKey(button_.Caption(), button_.Access());
     ::SetBkMode(item.hDC, TRANSPARENT);
     ::SetTextColor(item.hDC, TextColor());
     ::DrawTextW(item.hDC, text.data(), static_cast<int>(text.size()), &place,
-                DT_CENTER | DT_VCENTER | DT_SINGLELINE | DT_NOPREFIX);
+                DT_CENTER | DT_VCENTER | DT_SINGLELINE |
+                    ((item.itemState & ODS_NOACCEL) != 0 ? DT_HIDEPREFIX : 0));
     if ((item.itemState & ODS_FOCUS) != 0 && (item.itemState & ODS_NOFOCUSRECT) == 0) {
         const int margin = GetMetrics().Scaled(3);
         ::InflateRect(&place, -margin, -margin);

@@ -51,8 +51,9 @@ void NativeButton::OnCommand(WORD code) {
 
 std::wstring NativeButton::CaptionText() const {
     // The text of a button with a picture is not shown, but screen readers read it.
-    return button_.Caption().empty() ? platform::Wide(button_.Spec().accessibleName)
-                                     : EscapeAmpersands(button_.Caption());
+    const bool isPicture = button_.Caption().empty();
+    return MarkAccessKey(isPicture ? std::string(button_.Spec().accessibleName) : button_.Caption(),
+                         button_.Access());
 }
 
 }  // namespace

@@ -26,7 +26,9 @@ class NativeCheckBox : public NativeControl {
 
     void OnCreated() override { OnPropertyChanged(Property::Checked, -1); }
 
-    std::wstring CaptionText() const override { return EscapeAmpersands(box_.Caption()); }
+    std::wstring CaptionText() const override {
+        return MarkAccessKey(box_.Caption(), box_.Access());
+    }
 
   private:
     toolkit::CheckBox& box_;

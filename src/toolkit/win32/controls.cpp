@@ -94,4 +94,11 @@ std::wstring EscapeAmpersands(const std::string& caption) {
     return platform::Wide(ReplaceAll(caption, "&", "&&"));
 }
 
+std::wstring MarkAccessKey(const std::string& caption, char letter) {
+    const std::size_t at = UpperCase(caption).find(letter);
+    return at == std::string::npos ? EscapeAmpersands(caption)
+                                   : EscapeAmpersands(caption.substr(0, at)) + L'&' +
+                                         EscapeAmpersands(caption.substr(at));
+}
+
 }  // namespace desktop

@@ -37,4 +37,7 @@ std::vector<toolkit::Control*> InStackingOrder(const toolkit::Window& window);
 /// Converts a caption, doubling each "&": Windows takes a single one for the mark of an access key.
 std::wstring EscapeAmpersands(const std::string& caption);
 
+/// The same with a mark at the first `letter`, in either case; without one if the caption lacks it.
+std::wstring MarkAccessKey(const std::string& caption, char letter);
+
 }  // namespace desktop

@@ -62,9 +62,16 @@ class NativeLabel : public NativeControl {
         : NativeControl(parent, label, nativeClass), label_(label) {}
     void OnPropertyChanged(Property property, int row) override;
     RECT Place() const override;
+    std::wstring CaptionText() const override {
+        return HasAccessKey(label_) ? MarkAccessKey(label_.Caption(), label_.Named()->Access())
+                                    : NativeControl::CaptionText();
+    }
 
   private:
     static DWORD StyleOf(const toolkit::Label& label);
+    static bool HasAccessKey(const toolkit::Label& label) {
+        return label.Named() != nullptr && label.Named()->Access() != '\0';
+    }
     bool IsOnBand() const { return label_.Has(toolkit::Title) || label_.Has(toolkit::Small); }
 
     toolkit::Label& label_;
@@ -72,16 +79,16 @@ class NativeLabel : public NativeControl {
 
 DWORD NativeLabel::StyleOf(const toolkit::Label& label) {
     // Without SS_NOTIFY, movements over a label go to the window.
-    constexpr DWORD Common = SS_NOPREFIX | SS_NOTIFY;
+    const DWORD common = SS_NOTIFY | (HasAccessKey(label) ? 0 : SS_NOPREFIX);
     constexpr int TwoLines = 16;
     const bool isOneLine = label.Spec().place.height < TwoLines || label.Has(toolkit::Title);
     if (label.Has(toolkit::Sunken)) {
-        return Common | SS_SUNKEN | SS_EDITCONTROL;
+        return common | SS_SUNKEN | SS_EDITCONTROL;
     }
     if (label.Has(toolkit::Small)) {
-        return Common | SS_RIGHT;
+        return common | SS_RIGHT;
     }
-    return Common |
+    return common |
            (isOneLine ? SS_CENTERIMAGE : SS_EDITCONTROL);  // SS_EDITCONTROL breaks long words
 }
 
