@@ -57,8 +57,8 @@ bool IsDark(const QPalette& palette) {
 }
 
 bool HasStrongContrast(const QPalette& palette) {
-    const int window = palette.color(QPalette::Window).lightness();
-    return std::abs(window - palette.color(QPalette::WindowText).lightness()) == 255;
+    const int window = palette.color(QPalette::Window).value();
+    return std::abs(window - palette.color(QPalette::WindowText).value()) == 255;
 }
 
 QColor AccentOf(const QPalette& palette) {

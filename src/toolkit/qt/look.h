@@ -16,8 +16,8 @@ void ApplyLook();
 
 bool IsDark(const QPalette& palette);
 
-/// Whether the desktop asks for strong contrast: black on white, or white on black. Its colors then
-/// replace ours.
+/// Whether the desktop asks for strong contrast: black on white, or white or a full color such as
+/// yellow on black. Its colors then replace ours.
 bool HasStrongContrast(const QPalette& palette);
 
 /// The accent color, and that of texts on it, or the desktop's selection with strong contrast.
