@@ -144,6 +144,10 @@ bool IsInCombo(const QWidget* widget) {
     return widget != nullptr && qobject_cast<QComboBox*>(widget->parentWidget()) != nullptr;
 }
 
+int FontHeight(const QWidget* widget) {
+    return QFontMetrics(widget != nullptr ? widget->font() : QApplication::font()).height();
+}
+
 }  // namespace
 
 void Style::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
@@ -202,8 +206,19 @@ QRect Style::subControlRect(ComplexControl control, const QStyleOptionComplex* o
         return option->rect;  // nothing is laid out inside; this saves measuring its bold font
     }
     const QRect rect = QProxyStyle::subControlRect(control, option, part, widget);
-    const bool isText = control == CC_ComboBox && part == SC_ComboBoxEditField;
-    return isText ? rect.adjusted(TextInset, 0, 0, 0) : rect;
+    if (control != CC_ComboBox) {
+        return rect;
+    }
+    const int arrowWidth = option->rect.height() * 6 / 7;
+    const int arrowLeft = option->rect.right() - arrowWidth;
+    switch (part) {
+        case SC_ComboBoxArrow:
+            return {arrowLeft, option->rect.y(), arrowWidth, option->rect.height()};
+        case SC_ComboBoxEditField:
+            return rect.adjusted(TextInset, 0, arrowLeft - rect.right(), 0);
+        default:
+            return rect;
+    }
 }
 
 QRect Style::subElementRect(SubElement element, const QStyleOption* option,
@@ -225,10 +240,9 @@ int Style::pixelMetric(PixelMetric metric, const QStyleOption* option,
             return widget != nullptr && widget->window()->inherits("QFileDialog") ? 2 : 6;
         case PM_IndicatorWidth:
         case PM_IndicatorHeight:
-            return QFontMetrics(widget != nullptr ? widget->font() : QApplication::font())
-                       .height() -
-                   1;
+            return FontHeight(widget) - 1;
         case PM_CheckBoxLabelSpacing:
+            return (FontHeight(widget) + 1) / 2;
         case PM_HeaderMargin:
             return 8;
         default:
