@@ -206,16 +206,19 @@ QRect Style::subControlRect(ComplexControl control, const QStyleOptionComplex* o
         return option->rect;  // nothing is laid out inside; this saves measuring its bold font
     }
     const QRect rect = QProxyStyle::subControlRect(control, option, part, widget);
-    if (control != CC_ComboBox) {
+    const auto* combo = qstyleoption_cast<const QStyleOptionComboBox*>(option);
+    if (combo == nullptr) {
         return rect;
     }
+    // Qt indents a text that cannot be edited by another pixel.
+    const int inset = combo->editable ? TextInset + 1 : TextInset;
     const int arrowWidth = option->rect.height() * 6 / 7;
     const int arrowLeft = option->rect.right() - arrowWidth;
     switch (part) {
         case SC_ComboBoxArrow:
             return {arrowLeft, option->rect.y(), arrowWidth, option->rect.height()};
         case SC_ComboBoxEditField:
-            return rect.adjusted(TextInset, 0, arrowLeft - rect.right(), 0);
+            return rect.adjusted(inset, 0, arrowLeft - rect.right(), 0);
         default:
             return rect;
     }
