@@ -180,6 +180,19 @@ void Style::drawPrimitive(PrimitiveElement element, const QStyleOption* option, 
     }
 }
 
+void Style::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                        const QWidget* widget) const {
+    if (element == CE_HeaderSection || element == CE_HeaderEmptyArea) {
+        const QRect rect = option->rect;
+        painter->fillRect(rect, option->palette.color(QPalette::Button));
+        painter->setPen(option->palette.color(QPalette::Midlight));
+        painter->drawLine(rect.bottomLeft(), rect.bottomRight());
+        painter->drawLine(rect.topRight(), rect.bottomRight());
+    } else {
+        QProxyStyle::drawControl(element, option, painter, widget);
+    }
+}
+
 void Style::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
                                QPainter* painter, const QWidget* widget) const {
     const auto* combo = qstyleoption_cast<const QStyleOptionComboBox*>(option);
@@ -247,7 +260,7 @@ int Style::pixelMetric(PixelMetric metric, const QStyleOption* option,
         case PM_CheckBoxLabelSpacing:
             return (FontHeight(widget) + 1) / 2;
         case PM_HeaderMargin:
-            return 8;
+            return 7;
         default:
             return QProxyStyle::pixelMetric(metric, option, widget);
     }
