@@ -76,10 +76,10 @@ std::string WadDirectory::Name(std::int32_t index) const {
 std::int32_t WadDirectory::Find(std::string_view name, std::int32_t start) const {
     const std::int32_t stored = StoredCount();
     const char initial = name.empty() ? '\0' : name.front();
-    const char* first = bytes_.data() + ByteOffset(start) + NameOffset;
-    for (std::int32_t index = start; index < stored; ++index, first += EntryBytes) {
+    for (std::int32_t index = start; index < stored; ++index) {
         // The first character rules out most entries, unless it is padding.
-        if (*first == initial || *first == '\0' || *first == ' ') {
+        const char first = bytes_[ByteOffset(index) + NameOffset];
+        if (first == initial || first == '\0' || first == ' ') {
             LumpNameField field = NameField(index);
             if (StripLumpName(field) == name) {
                 return index;

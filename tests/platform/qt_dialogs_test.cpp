@@ -49,7 +49,8 @@ TEST(Dialogs, ReturnChosenFilesAndRefuseUnusableNames) {
         {{"sub/c.wad"}, folder.Path("sub\\c.wad")},
         {{"a\\b.wad", "", ""}, ""},  // the message and the dialog are cancelled
     };
-    for (const auto& [answers, chosen] : rows) {
+    for (const auto& row : rows) {
+        const std::vector<std::string>& answers = row.first;
         desktop::OpenFileName record = {
             .lpstrFilter = "WAD files (*.wad)\0*.wad\0All files (*.*)\0*.*"s,
             .lpstrInitialDir = folder.Path(),
@@ -65,8 +66,8 @@ TEST(Dialogs, ReturnChosenFilesAndRefuseUnusableNames) {
         for (std::size_t i = 1; i < answers.size(); ++i) {
             driver::InNextModal([answer = answers[i]] { Answer(answer); });
         }
-        EXPECT_EQ(desktop::GetOpenFileNameA(record), !chosen.empty());
-        EXPECT_EQ(record.lpstrFile, chosen);
+        EXPECT_EQ(desktop::GetOpenFileNameA(record), !row.second.empty());
+        EXPECT_EQ(record.lpstrFile, row.second);
     }
 }
 
