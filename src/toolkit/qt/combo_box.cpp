@@ -1,4 +1,5 @@
 #include <QComboBox>
+#include <QCompleter>
 #include <QHelpEvent>
 #include <QLineEdit>
 #include <QSignalBlocker>
@@ -73,11 +74,13 @@ class EditComboWidget final : public ComboWidget {
     EditComboWidget(toolkit::ComboBox& combo, QWidget& parent)
         : ComboWidget(combo, parent), combo_(combo) {
         resize(1, 1);  // otherwise making it editable measures every item
-        setEditable(true);
+        auto* edit = new QLineEdit(this);
+        edit->setCompleter(new QCompleter(edit));  // otherwise one for every item is made
+        setLineEdit(edit);
         setInsertPolicy(NoInsert);
         setCompleter(nullptr);
         // Without this, Qt selects a row with the typed text when the field loses the focus.
-        disconnect(lineEdit(), SIGNAL(editingFinished()), this, nullptr);
+        disconnect(lineEdit(), &QLineEdit::editingFinished, this, nullptr);
         DrawText();
         connect(lineEdit(), &QLineEdit::textEdited, this,
                 [this](const QString& typed) { combo_.UserTypes(Encode(typed)); });

@@ -1,5 +1,6 @@
 #include <QLabel>
 #include <QMouseEvent>
+#include <QPainter>
 #include <QStyleOption>
 #include <QStylePainter>
 
@@ -64,7 +65,11 @@ class LabelWidget final : public QLabel, public NativeControl {
     }
 
     void paintEvent(QPaintEvent* event) override {
-        QLabel::paintEvent(event);
+        if (label_.Has(toolkit::Title)) {
+            DrawTitle();
+        } else {
+            QLabel::paintEvent(event);
+        }
         if (hasFocus()) {
             QStyleOptionFocusRect option;
             option.initFrom(this);
@@ -75,8 +80,7 @@ class LabelWidget final : public QLabel, public NativeControl {
   private:
     void ApplyFlags() {
         if (label_.Has(toolkit::Title)) {
-            // As large as the place allows.
-            SetLook(std::min(LargestTitle, label_.Spec().place.height / LineHeight), Qt::white);
+            SetColor(Qt::white);
         } else if (label_.Has(toolkit::Small)) {
             SetColor(SmallTitleColor);
             setAlignment(Qt::AlignRight | Qt::AlignVCenter);
@@ -102,9 +106,13 @@ class LabelWidget final : public QLabel, public NativeControl {
         }
     }
 
-    void SetLook(double size, const QColor& color) {
-        setFont(Scaled(font(), size));
-        SetColor(color);
+    /// Draws the text as large as the place allows. It is scaled, because a font of its own would
+    /// take a thirtieth of the start.
+    void DrawTitle() {
+        const double scale = std::min(LargestTitle, label_.Spec().place.height / LineHeight);
+        QPainter painter(this);
+        painter.scale(scale, scale);
+        painter.drawText(QRectF(QPointF(), QSizeF(size()) / scale), Qt::AlignVCenter, text());
     }
 
     void SetLinkLook() {

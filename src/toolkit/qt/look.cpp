@@ -1,7 +1,6 @@
 #include "toolkit/qt/look.h"
 
 #include <QApplication>
-#include <QFontInfo>
 #include <QStyle>
 #include <cstdlib>
 
@@ -72,11 +71,6 @@ QColor TextOnAccent(const QPalette& palette) {
 QColor Blend(const QColor& from, const QColor& to, double share) {
     const auto mix = [share](int a, int b) { return a + static_cast<int>((b - a) * share); };
     return {mix(from.red(), to.red()), mix(from.green(), to.green()), mix(from.blue(), to.blue())};
-}
-
-QFont Scaled(QFont font, double factor) {
-    font.setPointSizeF(QFontInfo(font).pointSizeF() * factor);
-    return font;
 }
 
 void ApplyLook() {

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <QColor>
-#include <QFont>
 #include <QPalette>
 
 namespace desktop {
@@ -26,8 +25,5 @@ QColor TextOnAccent(const QPalette& palette);
 
 /// Returns the color at `share` (0 to 1) of the way from `from` to `to`.
 QColor Blend(const QColor& from, const QColor& to, double share);
-
-/// Returns the font with its point size multiplied by `factor`.
-QFont Scaled(QFont font, double factor);
 
 }  // namespace desktop
