@@ -90,6 +90,9 @@ class TopLevelWindows {
         }
         XSetErrorHandler([](Display*, XErrorEvent*) { return 0; });  // windows go away at any time
         XSelectInput(display_, DefaultRootWindow(display_), SubstructureNotifyMask);
+        // Into a corner, where no window answers it.
+        XWarpPointer(display_, None, DefaultRootWindow(display_), 0, 0, 0, 0, 0, 0);
+        XSync(display_, False);
     }
     TopLevelWindows(const TopLevelWindows&) = delete;
     TopLevelWindows& operator=(const TopLevelWindows&) = delete;

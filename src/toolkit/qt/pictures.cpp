@@ -12,12 +12,16 @@
 namespace desktop {
 namespace {
 
-constexpr QRgb Ember = 0xFFFF8B3D;
+constexpr QColor Ember(0xFF, 0x8B, 0x3D);
 
-QColor WithAlpha(QRgb color, double alpha) {
-    QColor result(color);
-    result.setAlphaF(static_cast<float>(alpha));
-    return result;
+/// Returns the color of the band at a share (0 to 1) of its width.
+QColor Dusk(double share) {
+    constexpr double MiddleShare = 0.55;
+    constexpr QColor Left(0x17, 0x10, 0x0E);
+    constexpr QColor Middle(0x3A, 0x14, 0x0D);
+    constexpr QColor Right(0x7D, 0x24, 0x10);
+    return share < MiddleShare ? Blend(Left, Middle, share / MiddleShare)
+                               : Blend(Middle, Right, (share - MiddleShare) / (1 - MiddleShare));
 }
 
 /// Makes the painter draw a picture of a size, scaled into the middle of a rectangle.
@@ -26,12 +30,6 @@ void FitInto(QPainter& painter, const QRectF& rect, QSizeF size) {
     painter.translate(rect.center());
     painter.scale(scale, scale);
     painter.translate(-size.width() / 2, -size.height() / 2);
-}
-
-/// A slanted stripe of the band, `from` and `to` at its lower edge.
-QPolygonF Stripe(double from, double to, double height) {
-    const double slant = height * 10 / 13;
-    return QList<QPointF>{{from, height}, {from + slant, 0}, {to + slant, 0}, {to, height}};
 }
 
 QPainterPath Outline(std::string_view name) {
@@ -67,26 +65,27 @@ QPixmap LoadIcon(int size) {
 
 }  // namespace
 
-void DrawBand(QPainter& painter, const QRectF& rect) {
-    const double lineHeight = rect.height() / 37;
-    const double height = rect.height() - lineHeight;
-    QLinearGradient dusk(rect.topLeft(), rect.topRight());
-    dusk.setColorAt(0, QColor(0x17, 0x10, 0x0E));
-    dusk.setColorAt(0.55, QColor(0x3A, 0x14, 0x0D));
-    dusk.setColorAt(1, QColor(0x7D, 0x24, 0x10));
+void DrawBand(QPainter& painter, const QRect& rect) {
     painter.save();
-    painter.fillRect(rect, dusk);
     painter.translate(rect.topLeft());
+    const int width = rect.width();
+    // Opaque strips, one for each color: for a gradient or a translucent color, Qt starts threads.
+    constexpr int Strips = 128;
+    for (int strip = 0; strip < Strips; ++strip) {
+        const int left = width * strip / Strips;
+        painter.fillRect(left, 0, width * (strip + 1) / Strips - left, rect.height(),
+                         Dusk(static_cast<double>(strip) / Strips));
+    }
+    const double lineHeight = rect.height() / 37.0;
+    const double height = rect.height() - lineHeight;
     painter.setRenderHint(QPainter::Antialiasing);
-    // Stripes at the right, as shares of the height from the right edge.
-    const auto at = [&](double share) { return rect.width() - share * height; };
-    painter.setPen(QPen(WithAlpha(Ember, 0.22), 1));
-    painter.setBrush(WithAlpha(Ember, 0.08));
-    painter.drawPolygon(Stripe(at(3.06), at(2.56), height));
-    painter.drawPolygon(Stripe(at(2.06), at(1.81), height));
-    painter.drawPolyline(Stripe(at(1.31), at(1.31), height).mid(0, 2));
+    for (const double fromRight : {3.06, 2.5, 1.94, 1.39}) {  // in heights
+        const QPointF lower(width - fromRight * height, height);
+        painter.setPen(Blend(Dusk(lower.x() / width), Ember, 0.2));
+        painter.drawLine(lower, lower + QPointF(height * 5 / 6, -height));
+    }
     painter.restore();
-    painter.fillRect(QRectF(rect.left(), rect.bottom() - lineHeight, rect.width(), lineHeight),
+    painter.fillRect(QRectF(rect.left(), rect.bottom() + 1 - lineHeight, width, lineHeight),
                      Accent);
 }
 

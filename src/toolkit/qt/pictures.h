@@ -12,7 +12,7 @@ class QRectF;
 namespace desktop {
 
 /// Draws the title band, filling the rectangle.
-void DrawBand(QPainter& painter, const QRectF& rect);
+void DrawBand(QPainter& painter, const QRect& rect);
 
 /// Draws the program's mark in the middle of the rectangle, as large as fits.
 void DrawMark(QPainter& painter, const QRectF& rect);
