@@ -39,8 +39,8 @@ run:
 tour:
 	$(INSTALL) build desktop engines test display
 	cmake --preset release -DZORVANE_TESTS=ON
-	cmake --build build/release --target zorvane_tour
-	scripts/run-tour build/release/tests/e2e/zorvane_tour build/tour
+	cmake --build build/release --target zorvane cut_map
+	tests/e2e/tour build/release/src/zorvane build/release/tests/e2e/cut_map build/tour
 
 test:
 	$(INSTALL) build desktop engines test display
