@@ -3,8 +3,10 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QFileSystemModel>
+#include <QHeaderView>
 #include <QLabel>
 #include <QLayout>
+#include <QTreeView>
 #include <QUrl>
 
 #include "platform/files.h"
@@ -39,10 +41,19 @@ void OfferFolders(QFileDialog& dialog) {
     dialog.setSidebarUrls(places);
 }
 
+/// Leaves the sizes and dates of files whole, and the rest of the place to their names.
+void FitColumns(QFileDialog& dialog) {
+    if (const auto* list = dialog.findChild<QTreeView*>(QStringLiteral("treeView"))) {
+        list->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+        list->header()->setSectionResizeMode(0, QHeaderView::Stretch);
+    }
+}
+
 /// Shows the dialog until it is cancelled or all of the chosen names can be used. Returns their
 /// Windows paths.
 std::vector<std::string> PathsChosenIn(QFileDialog& dialog) {
     OfferFolders(dialog);
+    FitColumns(dialog);
     std::vector<std::string> paths;
     while (paths.empty() && dialog.exec() == QDialog::Accepted) {
         for (const QString& file : dialog.selectedFiles()) {

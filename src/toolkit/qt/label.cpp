@@ -119,7 +119,7 @@ class LabelWidget final : public QLabel, public NativeControl {
         QFont underlined = font();
         underlined.setUnderline(true);
         setFont(underlined);
-        SetColor(palette().color(QPalette::Link));
+        SetColor(LinkColor(palette()));
         setCursor(Qt::PointingHandCursor);
         setFocusPolicy(Qt::StrongFocus);
         grabShortcut(QKeySequence(Qt::ALT | Qt::Key(label_.Access())));

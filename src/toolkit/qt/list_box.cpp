@@ -4,33 +4,23 @@
 #include <QListView>
 #include <QMouseEvent>
 #include <QScopedValueRollback>
-#include <QStyledItemDelegate>
 #include <QToolTip>
 #include <algorithm>
 
 #include "toolkit/qt/controls.h"
 #include "toolkit/qt/item_model.h"
 #include "toolkit/qt/native_window.h"
+#include "toolkit/qt/row_delegate.h"
 
 namespace desktop {
 namespace {
 
-/// Makes rows as wide as the list, so that a long path is elided in its middle and no row needs to
-/// be measured.
-class RowDelegate final : public QStyledItemDelegate {
-  public:
-    using QStyledItemDelegate::QStyledItemDelegate;
-    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex&) const override {
-        return {0, option.fontMetrics.height() * 3 / 2};
-    }
-};
-
 class ListBoxWidget final : public QListView, public NativeControl {
   public:
     ListBoxWidget(toolkit::ListBox& list, QWidget& parent)
-        : QListView(&parent), list_(list), items_(list, this), rows_(this) {
+        : QListView(&parent), list_(list), items_(list, this) {
         setUniformItemSizes(true);
-        setItemDelegate(&rows_);
+        setItemDelegate(new RowDelegate(*this));
         setTextElideMode(Qt::ElideMiddle);
         setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
         setEditTriggers(NoEditTriggers);
@@ -149,7 +139,6 @@ class ListBoxWidget final : public QListView, public NativeControl {
 
     toolkit::ListBox& list_;
     ItemModel items_;
-    RowDelegate rows_;
     bool silent_ = false;   // while applying a change of the program
     bool pressed_ = false;  // the left button is down on a row
 };

@@ -1,12 +1,11 @@
 #include <QAbstractTableModel>
-#include <QFontMetrics>
-#include <QGuiApplication>
 #include <QHeaderView>
 #include <QMouseEvent>
 #include <QScopedValueRollback>
 #include <QTreeView>
 
 #include "toolkit/qt/controls.h"
+#include "toolkit/qt/row_delegate.h"
 #include "toolkit/qt/text.h"
 
 namespace desktop {
@@ -25,10 +24,6 @@ class EntryModel final : public QAbstractTableModel {
     int columnCount(const QModelIndex&) const override { return 2; }
 
     QVariant data(const QModelIndex& index, int role) const override {
-        if (role == Qt::SizeHintRole) {
-            // The row height of a list box.
-            return QSize(0, QFontMetrics(QGuiApplication::font()).height() * 3 / 2);
-        }
         const bool isText = role == Qt::DisplayRole || role == Qt::ToolTipRole;
         if (!isText || !index.isValid() || index.row() >= list_.RowCount()) {
             return {};
@@ -66,6 +61,7 @@ class ListViewWidget final : public QTreeView, public NativeControl {
         : QTreeView(&parent), list_(list), entries_(list, this) {
         setRootIsDecorated(false);
         setUniformRowHeights(true);
+        setItemDelegate(new RowDelegate(*this));
         setAllColumnsShowFocus(true);
         setItemsExpandable(false);
         setEditTriggers(NoEditTriggers);
@@ -111,6 +107,7 @@ class ListViewWidget final : public QTreeView, public NativeControl {
     void resizeEvent(QResizeEvent* event) override {
         QTreeView::resizeEvent(event);
         header()->resizeSection(0, width() * 2 / 5);
+        scheduleDelayedItemsLayout();  // the height of the rows follows
     }
 
   private:

@@ -68,6 +68,13 @@ QColor TextOnAccent(const QPalette& palette) {
     return HasStrongContrast(palette) ? palette.color(QPalette::HighlightedText) : Qt::white;
 }
 
+QColor LinkColor(const QPalette& palette) {
+    constexpr int Visible = 100;  // of 255 levels of gray
+    const QColor link = palette.color(QPalette::Link);
+    const int contrast = qGray(link.rgb()) - qGray(palette.color(QPalette::Window).rgb());
+    return std::abs(contrast) < Visible ? palette.color(QPalette::WindowText) : link;
+}
+
 QColor Blend(const QColor& from, const QColor& to, double share) {
     const auto mix = [share](int a, int b) { return a + static_cast<int>((b - a) * share); };
     return {mix(from.red(), to.red()), mix(from.green(), to.green()), mix(from.blue(), to.blue())};

@@ -23,6 +23,9 @@ bool HasStrongContrast(const QPalette& palette);
 QColor AccentOf(const QPalette& palette);
 QColor TextOnAccent(const QPalette& palette);
 
+/// The color of links; that of texts where the desktop's own is hard to see.
+QColor LinkColor(const QPalette& palette);
+
 /// Returns the color at `share` (0 to 1) of the way from `from` to `to`.
 QColor Blend(const QColor& from, const QColor& to, double share);
 

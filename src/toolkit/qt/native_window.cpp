@@ -41,13 +41,13 @@ UnitSize UnitsOf(const QFont& font, double room) {
     return {average / 4, std::clamp(room, metrics.height() / 8, metrics.height() / 7)};
 }
 
-/// Rounds the edges instead of the sizes, so that edges that are equal in units are equal in
-/// pixels.
+/// Across, rounds the edges: those that are equal in units are equal in pixels. Down, rounds the
+/// height, so that all fields of a window are equally high.
 QRect InPixels(const toolkit::Place& place, const UnitSize& unit) {
-    const QPoint from(qRound(place.x * unit.width), qRound(place.y * unit.height));
-    const QPoint end(qRound((place.x + place.width) * unit.width),
-                     qRound((place.y + place.height) * unit.height));
-    return {from, QSize(end.x() - from.x(), end.y() - from.y())};
+    const int left = qRound(place.x * unit.width);
+    return {left, qRound(place.y * unit.height),
+            qRound((place.x + place.width) * unit.width) - left,
+            qRound(place.height * unit.height)};
 }
 
 bool IsBackground(toolkit::Kind kind) {

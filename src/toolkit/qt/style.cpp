@@ -82,8 +82,10 @@ bool IsDefaultButton(const QStyleOption& option) {
 
 void DrawButton(QPainter& painter, const QStyleOption& option) {
     const bool isMarked = IsDefaultButton(option) && !Has(option, QStyle::State_HasFocus);
+    const QColor mark =
+        HasStrongContrast(option.palette) ? Outline(option) : option.palette.color(QPalette::Dark);
     DrawSurface(painter, option.rect, ButtonFill(option),
-                isMarked ? QPen(option.palette.color(QPalette::Dark), 1.6) : EdgePen(option));
+                isMarked ? QPen(mark, 1.6) : EdgePen(option));
 }
 
 void DrawCheckMark(QPainter& painter, const QRect& box, const QColor& color) {
@@ -176,8 +178,9 @@ void Style::drawPrimitive(PrimitiveElement element, const QStyleOption* option, 
     } else if (element == PE_PanelLineEdit && !inCombo) {
         DrawSurface(*painter, option->rect, option->palette.color(QPalette::Base),
                     EdgePen(*option));
-    } else if (element == PE_FrameMenu || (element == PE_Frame && inCombo)) {
-        DrawSurface(*painter, option->rect, Qt::NoBrush, QPen(Outline(*option), 1), 0);
+    } else if (element == PE_PanelMenu || (element == PE_Frame && inCombo)) {
+        const QBrush fill = inCombo ? QBrush() : option->palette.base();
+        DrawSurface(*painter, option->rect, fill, QPen(Outline(*option), 1), 0);
     } else if (element == PE_PanelTipLabel) {
         DrawSurface(*painter, option->rect, option->palette.color(QPalette::ToolTipBase),
                     QPen(Outline(*option), 1), 0);
