@@ -29,7 +29,7 @@ std::string VersionLine() {
 MainWindow frmMain;
 
 MainWindow::MainWindow()
-    : Window({.caption = "Zorvane", .width = 376, .height = 286, .values = &SettingsValues}) {
+    : Window({.caption = "Zorvane", .width = 376, .height = 283, .values = &SettingsValues}) {
     OnLoad = [this] { LoadControls(); };
     OnCloseRequest = [] { ShutDown(); };
     OnTip = [this](std::string_view tip) { ShowTip(tip); };

@@ -50,7 +50,7 @@ class MainWindow : public toolkit::Window {
         .tip = "Exit Zorvane."}};
 
     toolkit::Frame framQuickStart{*this, {
-        .caption = "Quick Start", .place = {9, 81, 358, 180}, .tip = ""}};
+        .caption = "Quick Start", .place = {9, 81, 358, 177}, .tip = ""}};
     toolkit::Label lblFiles{*this, {.caption = "Additional files", .place = {19, 94, 219, 9}}};
     toolkit::ListBox lstFiles{*this, {
         .place = {19, 105, 219, 90}, .tab = 7, .access = 'I', .label = &lblFiles,
@@ -114,8 +114,8 @@ class MainWindow : public toolkit::Window {
         .flags = toolkit::Default | toolkit::Accent,
         .tip = "Quick Start the game with the selected files, parameters, map and skill level."}};
 
-    toolkit::Divider Frame1{*this, {.place = {9, 267, 358, 1}}};
-    toolkit::Label lblTip{*this, {.place = {9, 271, 358, 10}, .flags = toolkit::Quiet}};
+    toolkit::Divider Frame1{*this, {.place = {9, 264, 358, 1}}};
+    toolkit::Label lblTip{*this, {.place = {9, 268, 358, 10}, .flags = toolkit::Quiet}};
     // clang-format on
 
     toolkit::PopupMenu mnuFileList{"FileList"};

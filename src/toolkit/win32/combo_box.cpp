@@ -1,6 +1,8 @@
 // COMBOBOX: a drop-down list, with or without an edit field.
 #include "platform/win32/text.h"
+#include "toolkit/win32/centered_edit.h"
 #include "toolkit/win32/controls.h"
+#include "toolkit/win32/rows.h"
 
 namespace desktop {
 namespace {
@@ -8,7 +10,8 @@ namespace {
 class NativeCombo : public NativeControl {
   public:
     NativeCombo(NativeWindow& parent, toolkit::ItemControl& list, DWORD style)
-        : NativeControl(parent, list, {WC_COMBOBOXW, style | CBS_HASSTRINGS | WS_VSCROLL}),
+        : NativeControl(parent, list,
+                        {WC_COMBOBOXW, style | CBS_HASSTRINGS | CBS_OWNERDRAWFIXED | WS_VSCROLL}),
           list_(list) {}
 
   protected:
@@ -17,8 +20,11 @@ class NativeCombo : public NativeControl {
     void OnCreated() override;
     void OnLayout() override;
     RECT Place() const override;
+    void DrawItem(const DRAWITEMSTRUCT& item) override { DrawRow(item, list_, GetMetrics()); }
 
   private:
+    int RowHeight() const { return GetMetrics().LineHeight() * 3 / 2; }
+
     toolkit::ItemControl& list_;
 };
 
@@ -66,21 +72,25 @@ void NativeCombo::OnCreated() {
 }
 
 RECT NativeCombo::Place() const {
-    // The height includes the open list. The height of the closed box follows from its font.
-    RECT place = WithHeight(NativeControl::Place(), GetMetrics().FieldHeight());
-    constexpr int RowsShown = 12;
-    place.bottom += RowsShown * GetMetrics().FieldHeight();
+    RECT place = NativeControl::Place();
+    constexpr int RowsShown = 16;
+    place.bottom += RowsShown * RowHeight() + 2;  // the height includes the open list
     return place;
 }
 
+/// Makes the closed box as high as a button. By default its height follows from the font.
 void NativeCombo::OnLayout() {
     RECT closed = {};
     ::GetWindowRect(Handle(), &closed);
-    const int height = static_cast<int>(closed.bottom - closed.top);
-    if (height != GetMetrics().FieldHeight()) {
-        const RECT place = WithHeight(NativeControl::Place(), height);
-        ::SetWindowPos(Handle(), nullptr, place.left, place.top, 0, 0,
-                       SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+    const RECT place = NativeControl::Place();
+    const LRESULT missing = (place.bottom - place.top) - (closed.bottom - closed.top);
+    constexpr auto Box = static_cast<WPARAM>(-1);
+    Send(CB_SETITEMHEIGHT, Box, Send(CB_GETITEMHEIGHT, Box) + missing);
+    Send(CB_SETITEMHEIGHT, 0, RowHeight());
+    COMBOBOXINFO parts = {};
+    parts.cbSize = sizeof parts;
+    if (::GetComboBoxInfo(Handle(), &parts) != 0 && parts.hwndItem != Handle()) {
+        CenterLine(parts.hwndItem, GetMetrics());
     }
 }
 
@@ -93,6 +103,8 @@ class NativeEditCombo : public NativeCombo {
     void OnCommand(WORD code) override {
         if (code == CBN_EDITCHANGE) {
             box_.UserTypes(WindowText());
+        } else if (code == CBN_KILLFOCUS) {
+            Send(CB_SETEDITSEL, 0, MAKELPARAM(-1, 0));  // not all versions hide the selection
         } else {
             NativeCombo::OnCommand(code);
         }

@@ -1,5 +1,6 @@
 #include "toolkit/win32/event_loop.h"
 
+#include <cctype>
 #include <iterator>
 
 #include "platform/shell.h"
@@ -50,8 +51,25 @@ bool IsStrayWheel(const MSG& message) {
     return isCombo && message.hwnd != ::GetFocus() && !::IsChild(message.hwnd, ::GetFocus());
 }
 
+/// Moves the focus to the link of an access key: Windows finds those of labels and buttons only.
+bool FocusesLink(const MSG& message) {
+    const NativeControl* focused =
+        message.message == WM_SYSCHAR ? FindNative(message.hwnd) : nullptr;
+    if (focused == nullptr) {
+        return false;
+    }
+    for (const toolkit::Control* control : focused->GetControl().Owner().Controls()) {
+        if (control->Has(toolkit::Link) &&
+            control->Access() == std::toupper(static_cast<int>(message.wParam))) {
+            ::SetFocus(FindNative(*control)->Handle());
+            return true;
+        }
+    }
+    return false;
+}
+
 void Dispatch(MSG& message) {
-    if (IsStrayWheel(message)) {
+    if (IsStrayWheel(message) || FocusesLink(message)) {
         return;
     }
     const HWND window = message.hwnd != nullptr ? ::GetAncestor(message.hwnd, GA_ROOT) : nullptr;

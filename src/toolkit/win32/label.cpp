@@ -82,9 +82,6 @@ DWORD NativeLabel::StyleOf(const toolkit::Label& label) {
     const DWORD common = SS_NOTIFY | (HasAccessKey(label) ? 0 : SS_NOPREFIX);
     constexpr int TwoLines = 16;
     const bool isOneLine = label.Spec().place.height < TwoLines || label.Has(toolkit::Title);
-    if (label.Has(toolkit::Sunken)) {
-        return common | SS_SUNKEN | SS_EDITCONTROL;
-    }
     if (label.Has(toolkit::Small)) {
         return common | SS_RIGHT;
     }
@@ -121,6 +118,22 @@ void NativeLabel::OnPropertyChanged(Property property, int row) {
     }
 }
 
+/// EDIT that cannot be changed: its text can be marked and copied.
+class NativePreview : public NativeLabel {
+  public:
+    NativePreview(NativeWindow& parent, toolkit::Label& label)
+        : NativeLabel(parent, label,
+                      {WC_EDITW, ES_MULTILINE | ES_READONLY, WS_EX_CLIENTEDGE, Face::Body}) {}
+
+  protected:
+    void OnLayout() override {
+        RECT inside = {};
+        ::GetClientRect(Handle(), &inside);
+        ::InflateRect(&inside, -GetMetrics().Scaled(5), -GetMetrics().Scaled(3));
+        Send(EM_SETRECT, 0, reinterpret_cast<LPARAM>(&inside));
+    }
+};
+
 /// SysLink: can be focused and pressed by the keyboard, and has the role of a link.
 class NativeLink : public NativeLabel {
   public:
@@ -135,6 +148,10 @@ class NativeLink : public NativeLabel {
         }
         return 0;
     }
+    // It draws its text at the top, labels in their middle.
+    RECT Place() const override {
+        return WithHeight(NativeLabel::Place(), GetMetrics().LineHeight());
+    }
     std::wstring CaptionText() const override {
         return L"<a>" + NativeLabel::CaptionText() + L"</a>";
     }
@@ -148,6 +165,9 @@ class NativeLink : public NativeLabel {
 std::unique_ptr<NativeControl> MakeLabel(NativeWindow& parent, toolkit::Label& label) {
     if (label.Has(toolkit::Link)) {
         return std::make_unique<NativeLink>(parent, label);
+    }
+    if (label.Has(toolkit::Sunken)) {
+        return std::make_unique<NativePreview>(parent, label);
     }
     return std::make_unique<NativeLabel>(parent, label);
 }

@@ -1,6 +1,7 @@
 // LISTBOX: a list with one selected row.
 #include "toolkit/win32/controls.h"
 #include "toolkit/win32/native_window.h"
+#include "toolkit/win32/rows.h"
 
 namespace desktop {
 namespace {
@@ -11,7 +12,7 @@ class NativeListBox : public NativeControl {
         : NativeControl(
               parent, list,
               {WC_LISTBOXW,
-               LBS_NOTIFY | LBS_HASSTRINGS | LBS_NOINTEGRALHEIGHT | WS_VSCROLL | WS_HSCROLL,
+               LBS_NOTIFY | LBS_HASSTRINGS | LBS_OWNERDRAWFIXED | LBS_NOINTEGRALHEIGHT | WS_VSCROLL,
                WS_EX_CLIENTEDGE}),
           list_(list) {}
 
@@ -21,12 +22,10 @@ class NativeListBox : public NativeControl {
     void OnCreated() override;
     void OnLayout() override;
     void OnMenuKey() override;
+    void DrawItem(const DRAWITEMSTRUCT& item) override { DrawRow(item, list_, GetMetrics()); }
 
   private:
-    void IncludeWidthOf(int row);
-
     toolkit::ListBox& list_;
-    int widest_ = 0;  // width of the longest text, in pixels
 };
 
 void NativeListBox::OnCommand(WORD code) {
@@ -45,15 +44,12 @@ void NativeListBox::OnPropertyChanged(Property property, int row) {
     switch (property) {
         case Property::ItemAdded:
             SendText(LB_INSERTSTRING, static_cast<WPARAM>(row), list_.List(row));
-            IncludeWidthOf(row);
             break;
         case Property::ItemRemoved:
             Send(LB_DELETESTRING, static_cast<WPARAM>(row));
             break;
         case Property::ItemsCleared:
             Send(LB_RESETCONTENT);
-            widest_ = 0;
-            Send(LB_SETHORIZONTALEXTENT);
             break;
         case Property::Selection:
             Send(LB_SETCURSEL, static_cast<WPARAM>(list_.ListIndex()));
@@ -70,30 +66,20 @@ void NativeListBox::OnCreated() {
     OnPropertyChanged(Property::Selection, -1);
 }
 
-void NativeListBox::IncludeWidthOf(int row) {
-    const int width = GetMetrics().TextWidth(Face::Body, list_.List(row));
-    constexpr int Margin = 8;
-    if (width + Margin > widest_) {
-        widest_ = width + Margin;
-        Send(LB_SETHORIZONTALEXTENT, static_cast<WPARAM>(widest_));
-    }
-}
-
 void NativeListBox::OnMenuKey() {
     RECT row = {};
     if (list_.ListIndex() >= 0 && Send(LB_GETITEMRECT, static_cast<WPARAM>(list_.ListIndex()),
                                        reinterpret_cast<LPARAM>(&row)) != LB_ERR) {
-        const POINT point = {row.left + GetMetrics().RowHeight(), row.bottom - 1};
+        const POINT point = {row.left + GetMetrics().LineHeight(), row.bottom - 1};
         Parent().SetMenuPosition(Handle(), point);
         list_.UserReleasesButton(toolkit::MouseButton::Right, point.x, point.y);
     }
 }
 
 void NativeListBox::OnLayout() {
-    widest_ = 0;
-    for (int row = 0; row < list_.ListCount(); ++row) {
-        IncludeWidthOf(row);
-    }
+    RECT inside = {};
+    ::GetClientRect(Handle(), &inside);
+    Send(LB_SETITEMHEIGHT, 0, GetMetrics().RowHeight(static_cast<int>(inside.bottom)));
 }
 
 }  // namespace

@@ -49,10 +49,14 @@ void NativeListView::MakeColumns() {
 }
 
 void NativeListView::OnLayout() {
+    RECT heads = {};
+    ::GetClientRect(reinterpret_cast<HWND>(Send(LVM_GETHEADER)), &heads);
+    RECT inside = {};
+    ::GetClientRect(Handle(), &inside);
     // The rows are as high as their icons. The list view destroys the image list.
-    Send(
-        LVM_SETIMAGELIST, LVSIL_SMALL,
-        reinterpret_cast<LPARAM>(::ImageList_Create(1, GetMetrics().RowHeight(), ILC_COLOR, 1, 0)));
+    const int height = GetMetrics().RowHeight(static_cast<int>(inside.bottom - heads.bottom));
+    Send(LVM_SETIMAGELIST, LVSIL_SMALL,
+         reinterpret_cast<LPARAM>(::ImageList_Create(1, height, ILC_COLOR, 1, 0)));
     // The same with and without a scroll bar, so that columns of two lists are aligned.
     const RECT place = Place();
     const int borders = 2 * ::GetSystemMetrics(SM_CXEDGE);

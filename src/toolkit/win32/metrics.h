@@ -1,6 +1,7 @@
 // Sizes and fonts of a window at the resolution of its monitor.
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <string>
 
@@ -33,10 +34,13 @@ class Metrics {
     RECT Pixels(const toolkit::Place& place) const;
     /// Width of a text in pixels.
     int TextWidth(Face face, const std::string& text) const;
-    /// Height of a field with one line of text, including its border.
-    int FieldHeight() const { return characterHeight_ + Scaled(8); }
-    /// Height of a row in a list view.
-    int RowHeight() const { return characterHeight_ + Scaled(4); }
+    int LineHeight() const { return characterHeight_; }
+    /// Space to the left and right of the text in a field or a row.
+    int TextMargin() const { return Scaled(4); }
+    /// Returns the height of the rows of a list: a whole number of them fills `height`.
+    int RowHeight(int height) const {
+        return height / std::max(1, height / (characterHeight_ * 3 / 2));
+    }
     /// Converts pixels at 96 dots per inch to pixels at this resolution.
     int Scaled(int pixels) const { return ::MulDiv(pixels, dpi_, 96); }
 

@@ -70,6 +70,7 @@ class NativeWindow {
     LRESULT OnActivate(WPARAM wParam, LPARAM lParam);
     LRESULT OnSetFocus(WPARAM wParam, LPARAM lParam);
     LRESULT OnDefaultButton(WPARAM wParam, LPARAM lParam);
+    LRESULT OnNextControl(WPARAM wParam, LPARAM lParam);
     LRESULT OnPointer(WPARAM wParam, LPARAM lParam);
     LRESULT OnContextMenu(WPARAM wParam, LPARAM lParam);
     LRESULT OnColorChange(WPARAM wParam, LPARAM lParam);

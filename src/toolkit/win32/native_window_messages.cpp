@@ -18,6 +18,7 @@ const NativeWindow::Route NativeWindow::Routes[] = {
     {WM_ACTIVATE, &NativeWindow::OnActivate},
     {WM_SETFOCUS, &NativeWindow::OnSetFocus},
     {DM_GETDEFID, &NativeWindow::OnDefaultButton},
+    {WM_NEXTDLGCTL, &NativeWindow::OnNextControl},
     {WM_MOUSEMOVE, &NativeWindow::OnPointer},
     {WM_CONTEXTMENU, &NativeWindow::OnContextMenu},
     {WM_SYSCOLORCHANGE, &NativeWindow::OnColorChange},
@@ -125,6 +126,15 @@ LRESULT NativeWindow::OnDefaultButton(WPARAM /*wParam*/, LPARAM /*lParam*/) {
         button = FindWithFlag(toolkit::Default);
     }
     return button != nullptr ? MAKELRESULT(::GetDlgCtrlID(button->Handle()), DC_HASDEFID) : 0;
+}
+
+/// Windows finds the label of an access key, but only its own dialogs move the focus to the next
+/// control then.
+LRESULT NativeWindow::OnNextControl(WPARAM wParam, LPARAM lParam) {
+    const bool isNamed = LOWORD(lParam) != 0;
+    ::SetFocus(isNamed ? reinterpret_cast<HWND>(wParam)
+                       : ::GetNextDlgTabItem(handle_, ::GetFocus(), wParam != 0));
+    return 0;
 }
 
 LRESULT NativeWindow::OnPointer(WPARAM wParam, LPARAM lParam) {

@@ -1,5 +1,6 @@
 // EDIT: one line of text.
 #include "platform/win32/text.h"
+#include "toolkit/win32/centered_edit.h"
 #include "toolkit/win32/controls.h"
 
 namespace desktop {
@@ -28,10 +29,7 @@ class NativeTextBox : public NativeControl {
 
     void OnCreated() override { Send(EM_SETLIMITTEXT); }  // no limit
 
-    // A higher field would draw its text at the top.
-    RECT Place() const override {
-        return WithHeight(NativeControl::Place(), GetMetrics().FieldHeight());
-    }
+    void OnLayout() override { CenterLine(Handle(), GetMetrics()); }
 
     std::wstring CaptionText() const override { return platform::Wide(box_.Text()); }
 
