@@ -28,6 +28,9 @@ class AccentButton : public NativeControl {
   protected:
     void OnCreated() override;
     void OnCommand(WORD code) override;
+    std::wstring CaptionText() const override {
+        return MarkAccessKey(button_.Caption(), button_.Access());
+    }
 
   private:
     static LRESULT CALLBACK Procedure(HWND handle, UINT message, WPARAM wParam, LPARAM lParam,
@@ -65,7 +68,7 @@ void AccentButton::DrawItem(const DRAWITEMSTRUCT& item) {
 
     const auto font = reinterpret_cast<HFONT>(Send(WM_GETFONT));
     const Chosen fontChosen(item.hDC, font);
-    const std::wstring text = MarkAccessKey(button_.Caption(), button_.Access());
+    const std::wstring text = CaptionText();
     ::SetBkMode(item.hDC, TRANSPARENT);
     ::SetTextColor(item.hDC, TextColor());
     ::DrawTextW(item.hDC, text.data(), static_cast<int>(text.size()), &place,
