@@ -26,7 +26,10 @@ class QtWindow : public testing::Test {
         EXPECT_EQ(desktop::FindNative(&form), nullptr) << "created at its first showing";
         form.Show();
     }
-    void TearDown() override { form.Unload(); }
+    void TearDown() override {
+        form.Unload();
+        QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
 
     QWidget& WidgetOf(const toolkit::Control& control) {
         return desktop::FindNative(&form)->Find(control).Widget();
@@ -70,6 +73,21 @@ TEST_F(QtWindow, MarksOneDefaultButtonAndIgnoresTheWheelWithoutFocus) {
     EXPECT_EQ(form.cmbFixed.ListIndex(), 0);
     form.txtPath.SetText("Z:\\a.b\\demo.lmp");
     EXPECT_EQ(qobject_cast<QLineEdit*>(&WidgetOf(form.txtPath))->selectedText(), "demo");
+}
+
+TEST_F(QtWindow, FollowsTheFontOfTheDesktopAndStaysOnTheScreen) {
+    const QWidget* window = WidgetOf(form.txtName).window();
+    const QSize before = window->size();
+    QFont large = QApplication::font();
+    large.setPointSizeF(large.pointSizeF() * 10);
+    for (const QFont& font : {large, QApplication::font()}) {
+        QApplication::setFont(font);
+        QApplication::processEvents();
+        const QSize room = window->screen()->availableSize();
+        EXPECT_EQ(window->size().boundedTo(room), window->size());
+        EXPECT_EQ(window->width() > before.width(), font == large);
+    }
+    EXPECT_EQ(window->size(), before);
 }
 
 TEST_F(QtWindow, ShowsUtf8OrElseWindows1252AndNativePaths) {

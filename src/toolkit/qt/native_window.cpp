@@ -330,6 +330,15 @@ void NativeWindow::hideEvent(QHideEvent* event) {
 }
 
 /// The desktop's font may change while the window exists.
+bool NativeWindow::event(QEvent* event) {
+    const bool handled = QWidget::event(event);
+    if (event->type() == QEvent::ApplicationFontChange) {
+        setFont(QFont());
+        FitFont();
+    }
+    return handled;
+}
+
 void NativeWindow::changeEvent(QEvent* event) {
     QWidget::changeEvent(event);
     if (event->type() == QEvent::FontChange && !natives_.empty()) {
