@@ -5,7 +5,6 @@
 #include "platform/files.h"
 #include "state/messages.h"
 #include "state/records.h"
-#include "text/ascii.h"
 #include "text/file_names.h"
 
 namespace {
@@ -19,6 +18,7 @@ template <typename Record>
 std::vector<Record> Flatten(ConfigMap& root, std::string_view key, const std::string& prefix) {
     std::vector<Record> records;
     if (const ConfigMapRef map = root.Item(key).AsMap()) {
+        records.reserve(map->Entries().size());
         for (const auto& entry : map->Entries()) {
             records.push_back({entry.value.AsText(), prefix + entry.key});
         }
@@ -26,10 +26,17 @@ std::vector<Record> Flatten(ConfigMap& root, std::string_view key, const std::st
     return records;
 }
 
+/// A key of the settings file cannot have spaces.
+char KeyCharacter(char character) {
+    return character == ' ' ? '\x01' : character;
+}
+
 }  // namespace
 
 std::string EngineKey(const std::string& realname) {
-    return ReplaceAll(realname, " ", "\x01");
+    std::string key = realname;
+    std::ranges::transform(key, key.begin(), KeyCharacter);
+    return key;
 }
 
 void ReadEngineFile(const std::string& fileName) {
@@ -52,9 +59,9 @@ void ReadEngineFile(const std::string& fileName) {
     engine.filetypes = Flatten<EngineFileType>(root, "filetypes", "");
 
     // The settings file cannot hold two engines of one key.
-    const std::string key = EngineKey(engine.realname);
-    const bool isDuplicate = std::ranges::any_of(
-        Engines, [&](const EngineRecord& other) { return EngineKey(other.realname) == key; });
+    const bool isDuplicate = std::ranges::any_of(Engines, [&](const EngineRecord& other) {
+        return std::ranges::equal(other.realname, engine.realname, {}, KeyCharacter, KeyCharacter);
+    });
     if (!isDuplicate) {
         Engines.push_back(std::move(engine));
     }

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QEventLoop>
 #include <QSocketNotifier>
+#include <QTimer>
 #include <QWindow>
 
 #include "platform/shell.h"
@@ -37,9 +38,14 @@ void DoEvents() {
     QApplication::processEvents();
 }
 
-int RunEventLoop() {
-    // Only now, so that decoding it does not delay the first window.
+void SetIcon() {
     QApplication::setWindowIcon(ProgramIcon());
+}
+
+int RunEventLoop() {
+    // Decoding it must not delay the first window.
+    constexpr int Delay = 50;  // milliseconds
+    QTimer::singleShot(Delay, qApp, SetIcon);
     return RunWatchedEventLoop();
 }
 
