@@ -8,10 +8,6 @@
 
 namespace {
 
-/// A text grows with the square of the depth of its tree, and a file larger than this cannot be
-/// read.
-constexpr std::size_t LargestText = std::size_t{64} << 20;
-
 platform::Outcome OutOfMemory() {
     return {false, "There is not enough memory"};
 }
@@ -58,7 +54,8 @@ platform::Outcome clsConfiguration::SaveConfiguration(const std::string& fileNam
                                                       std::string_view newLine,
                                                       bool whitespace) const {
     try {
-        return OutputFits(*configurationRoot_, newLine, whitespace, LargestText)
+        // A text grows with the square of the depth of its tree, and a larger file cannot be read.
+        return OutputFits(*configurationRoot_, newLine, whitespace, platform::LargestWholeFile)
                    ? platform::ReplaceWholeFile(fileName, OutputConfiguration(newLine, whitespace))
                    : platform::Outcome{false, "The text would be larger than 64 MiB"};
     } catch (const std::bad_alloc&) {

@@ -83,13 +83,16 @@ Outcome CheckNativeName(std::string_view path);
 /// in case-insensitive name order. Empty if there is no such directory.
 std::vector<std::string> ListFiles(const std::string& directory, const std::string& pattern);
 
-/// Reads all bytes of a regular file. Fails if it is larger than 64 MiB. `bytes` is empty on
-/// failure.
+/// The largest file that is read or written as a whole: 64 MiB.
+inline constexpr std::size_t LargestWholeFile = std::size_t{64} << 20;
+
+/// Reads all bytes of a regular file. Fails if it is larger than LargestWholeFile. `bytes` is empty
+/// on failure.
 Outcome ReadWholeFile(const std::string& path, std::string& bytes);
 
 /// Writes a file atomically: writes a temporary file beside it, flushes that and renames it over
-/// the target. A failure leaves the old file whole. Fails above 64 MiB. Follows links, and keeps
-/// the permissions of an existing file.
+/// the target. A failure leaves the old file whole. Fails above LargestWholeFile. Follows links,
+/// and keeps the permissions of an existing file.
 Outcome ReplaceWholeFile(const std::string& path, std::string_view bytes);
 
 /// Copies the content of one file over another, atomically as ReplaceWholeFile. Fails if both are

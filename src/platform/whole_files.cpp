@@ -9,7 +9,6 @@
 namespace platform {
 namespace {
 
-constexpr std::int64_t LargestWholeFile = std::int64_t{64} << 20;
 constexpr const char* TooLarge = "The file is larger than 64 MiB";
 constexpr std::string_view TemporaryPrefix = ".zorvane-";
 
@@ -22,7 +21,7 @@ Outcome ReadWholeFile(const std::string& path, std::string& bytes) {
         return opened;
     }
     // Before any memory is reserved: a sparse file may claim any size.
-    const std::int64_t size = file.Size();
+    const auto size = static_cast<std::uint64_t>(file.Size());
     if (size > LargestWholeFile) {
         return {false, TooLarge};
     }
@@ -38,7 +37,7 @@ Outcome ReadWholeFile(const std::string& path, std::string& bytes) {
 }
 
 Outcome ReplaceWholeFile(const std::string& path, std::string_view bytes) {
-    if (bytes.size() > static_cast<std::size_t>(LargestWholeFile)) {
+    if (bytes.size() > LargestWholeFile) {
         return {false, TooLarge};
     }
     TemporaryFile file;
