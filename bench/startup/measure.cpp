@@ -4,10 +4,14 @@
 // exceeding one is a failure. "@size" in a command is replaced by the width and height of PROGRAM's
 // window.
 //
+// measure_startup answers COMMAND: starts the command, and prints how long its window takes from a
+// key to the repaint: for another row of its first list, and for a letter in the field of Alt+P.
+//
 // measure_startup once COMMAND: starts the command, ends it by SIGUSR1 once its window is drawn,
 // and returns. For a command that counts something itself, such as valgrind.
 #include <X11/Xlib.h>
 #include <X11/extensions/Xdamage.h>
+#include <X11/keysym.h>
 #include <poll.h>
 #include <signal.h>
 #include <spawn.h>
@@ -102,7 +106,7 @@ class TopLevelWindows {
     void Forget() { XSync(display_, True); }
 
     /// Waits until the next program has mapped a window and drawn into it.
-    void WaitForContent(Clock::time_point& mapped, Clock::time_point& drawn, WindowSize& size) {
+    Window WaitForContent(Clock::time_point& mapped, Clock::time_point& drawn, WindowSize& size) {
         Window window = None;
         for (;;) {
             const XEvent event = Next();
@@ -117,11 +121,38 @@ class TopLevelWindows {
                 if (damage.drawable == window) {
                     drawn = Clock::now();
                     size = {damage.geometry.width, damage.geometry.height};
-                    return;
+                    return window;
                 }
             }
         }
     }
+
+    /// Presses a key in the focused window; returns the milliseconds until something is drawn.
+    double PressAndWait(KeySym key, unsigned modifiers = 0) {
+        Window focused = None;
+        int revert = 0;
+        XGetInputFocus(display_, &focused, &revert);
+        Forget();
+        const auto start = Clock::now();
+        for (const int type : {KeyPress, KeyRelease}) {
+            XEvent event = {};
+            event.type = type;
+            event.xkey.window = focused;
+            event.xkey.root = DefaultRootWindow(display_);
+            event.xkey.keycode = XKeysymToKeycode(display_, key);
+            event.xkey.state = modifiers;
+            event.xkey.same_screen = True;
+            XSendEvent(display_, focused, True, KeyPressMask, &event);
+        }
+        XFlush(display_);
+        while (Next().type != damage_ + XDamageNotify) {
+        }
+        const std::chrono::duration<double, std::milli> time = Clock::now() - start;
+        std::this_thread::sleep_for(std::chrono::milliseconds(50));  // until all is drawn
+        return time.count();
+    }
+
+    void Focus(Window window) { XSetInputFocus(display_, window, RevertToNone, CurrentTime); }
 
   private:
     XEvent Next() {
@@ -165,6 +196,30 @@ int RunOnce(const std::string& command) {
     screen.WaitForContent(mapped, drawn, size);
     std::this_thread::sleep_for(std::chrono::seconds(3));
     kill(process, SIGUSR1);
+    waitpid(process, nullptr, 0);
+    return EXIT_SUCCESS;
+}
+
+int MeasureAnswers(const std::string& command) {
+    TopLevelWindows screen;
+    const pid_t process = Start(command);
+    Clock::time_point ignored;
+    WindowSize size;
+    screen.Focus(screen.WaitForContent(ignored, ignored, size));
+    std::this_thread::sleep_for(std::chrono::milliseconds(400));
+    const auto median = [&](std::array<KeySym, 2> keys) {
+        constexpr int Rounds = 31;
+        std::vector<double> times;
+        for (int round = 0; round < Rounds; ++round) {
+            times.push_back(screen.PressAndWait(keys[static_cast<std::size_t>(round % 2)]));
+        }
+        std::ranges::sort(times);
+        return times[times.size() / 2];
+    };
+    std::printf("%-34s %9.2f\n", "another row chosen to repaint, ms", median({XK_Down, XK_Up}));
+    screen.PressAndWait(XK_p, Mod1Mask);
+    std::printf("%-34s %9.2f\n", "letter typed to repaint, ms", median({XK_a, XK_b}));
+    kill(process, SIGKILL);
     waitpid(process, nullptr, 0);
     return EXIT_SUCCESS;
 }
@@ -216,6 +271,9 @@ int main(int argumentCount, char** arguments) {
     const std::vector<std::string> words(arguments + 1, arguments + argumentCount);
     if (words.size() == 2 && words[0] == "once") {
         return RunOnce(words[1]);
+    }
+    if (words.size() == 2 && words[0] == "answers") {
+        return MeasureAnswers(words[1]);
     }
     if (words.size() < 4) {
         Fail("usage, on an X display: measure_startup ROUNDS LIMITS PROGRAM BARE...");
