@@ -3,10 +3,13 @@
 
 #include <QAbstractEventDispatcher>
 #include <QApplication>
+#include <QHelpEvent>
 #include <QLineEdit>
+#include <QListView>
 #include <QPushButton>
 #include <QTest>
 #include <QTimer>
+#include <QToolTip>
 #include <QWheelEvent>
 #include <QWidget>
 
@@ -106,6 +109,9 @@ TEST_F(QtWindow, ShowsUtf8OrElseWindows1252AndNativePaths) {
     form.lstRows.SetToolTip("Z:\\<b>x</b>.wad");
     EXPECT_TRUE(WidgetOf(form.lstRows).toolTip().contains(QStringLiteral("&lt;b&gt;")))
         << "a name is not markup";
+    QHelpEvent rests(QEvent::ToolTip, {5, 5}, {5, 5});
+    QApplication::sendEvent(qobject_cast<QListView*>(&WidgetOf(form.lstRows))->viewport(), &rests);
+    EXPECT_EQ(QToolTip::text(), WidgetOf(form.lstRows).toolTip());
 }
 
 TEST(QtEvents, RunUntilAProcessEndsWithoutPolling) {

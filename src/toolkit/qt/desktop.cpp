@@ -38,14 +38,13 @@ void DoEvents() {
     QApplication::processEvents();
 }
 
-void SetIcon() {
-    QApplication::setWindowIcon(ProgramIcon());
-}
-
 int RunEventLoop() {
     // Decoding it must not delay the first window.
     constexpr int Delay = 50;  // milliseconds
-    QTimer::singleShot(Delay, qApp, SetIcon);
+    QTimer timer;
+    timer.setSingleShot(true);
+    QObject::connect(&timer, &QTimer::timeout, [] { QApplication::setWindowIcon(ProgramIcon()); });
+    timer.start(Delay);
     return RunWatchedEventLoop();
 }
 
