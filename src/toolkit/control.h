@@ -46,7 +46,7 @@ enum Flag : unsigned {
     Cancel = 1U << 1,   // button: the Escape key presses it
     Accent = 1U << 2,   // button: in the color of the program
     Bold = 1U << 3,     // label: in bold type
-    Title = 1U << 4,    // label: in large bold type on the title band
+    Title = 1U << 4,    // label: the program's name on the title band
     Small = 1U << 5,    // label: in small type on the title band, right-aligned
     Link = 1U << 6,     // label: looks like a link and can be clicked
     Sunken = 1U << 7,   // label: with a border, its text wrapped

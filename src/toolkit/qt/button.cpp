@@ -72,9 +72,6 @@ class PictureButtonWidget final : public ButtonWidget {
 class AccentButtonWidget final : public ButtonWidget {
   public:
     AccentButtonWidget(toolkit::Button& button, QWidget& parent) : ButtonWidget(button, parent) {
-        QFont bold = font();
-        bold.setBold(true);
-        setFont(bold);
         setAttribute(Qt::WA_Hover);
     }
 
@@ -84,18 +81,18 @@ class AccentButtonWidget final : public ButtonWidget {
         initStyleOption(&option);
         QPainter painter(this);
         painter.setRenderHint(QPainter::Antialiasing);
-        QColor color = TextOnAccent(palette());
+        const QColor color = TextOnAccent(palette());
         DrawBox(painter, Fill(option), AccentOf(palette()).darker(128), 0.5);
         if (hasFocus()) {
             DrawBox(painter, Qt::transparent, color, 3.5);
         }
-        color.setAlphaF(isEnabled() ? 1.0F : 0.6F);
-        painter.setPen(color);
+        painter.setPen(isEnabled() ? color : Blend(color, Fill(option), 0.4));
         const bool underlined =
             style()->styleHint(QStyle::SH_UnderlineShortcut, &option, this) != 0;
-        painter.drawText(
-            rect(), Qt::AlignCenter | (underlined ? Qt::TextShowMnemonic : Qt::TextHideMnemonic),
-            text());
+        painter.setFont(SpacedForBold(font()));
+        DrawBold(painter, rect(),
+                 Qt::AlignCenter | (underlined ? Qt::TextShowMnemonic : Qt::TextHideMnemonic),
+                 text());
     }
 
   private:

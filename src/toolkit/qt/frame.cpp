@@ -1,7 +1,5 @@
 #include <QGroupBox>
 #include <QPainter>
-#include <QStyleOption>
-#include <QStylePainter>
 
 #include "toolkit/qt/controls.h"
 #include "toolkit/qt/text.h"
@@ -9,7 +7,7 @@
 namespace desktop {
 namespace {
 
-/// The parent of the controls that it surrounds. Its own font stays, because they inherit it.
+/// The parent of the controls that it surrounds.
 class FrameWidget final : public QGroupBox, public NativeControl {
   public:
     FrameWidget(toolkit::Control& frame, QWidget& parent) : QGroupBox(&parent), frame_(frame) {
@@ -22,18 +20,6 @@ class FrameWidget final : public QGroupBox, public NativeControl {
         if (property == Property::Caption) {
             setTitle(EscapeAmpersands(DisplayText(frame_.Caption())));
         }
-    }
-
-  protected:
-    void paintEvent(QPaintEvent*) override {
-        QStyleOptionGroupBox option;
-        initStyleOption(&option);
-        QFont bold = font();
-        bold.setBold(true);
-        option.fontMetrics = QFontMetrics(bold);
-        QStylePainter painter(this);
-        painter.setFont(bold);
-        painter.drawComplexControl(QStyle::CC_GroupBox, option);
     }
 
   private:

@@ -6,14 +6,12 @@
 
 #include "toolkit/qt/controls.h"
 #include "toolkit/qt/look.h"
+#include "toolkit/qt/pictures.h"
 #include "toolkit/qt/text.h"
 
 namespace desktop {
 namespace {
 
-/// Height of a line of text in dialog units.
-constexpr double LineHeight = 8;
-constexpr double LargestTitle = 2.4;
 constexpr QColor SmallTitleColor(0xE9, 0xCF, 0xC4);
 /// Share of the background in the quiet color; the contrast stays above 4.5:1.
 constexpr double QuietShare = 0.28;
@@ -66,7 +64,8 @@ class LabelWidget final : public QLabel, public NativeControl {
 
     void paintEvent(QPaintEvent* event) override {
         if (label_.Has(toolkit::Title)) {
-            DrawTitle();
+            QPainter painter(this);
+            DrawWordmark(painter, rect());
         } else {
             QLabel::paintEvent(event);
         }
@@ -79,13 +78,11 @@ class LabelWidget final : public QLabel, public NativeControl {
 
   private:
     void ApplyFlags() {
-        if (label_.Has(toolkit::Title)) {
-            SetColor(Qt::white);
-        } else if (label_.Has(toolkit::Small)) {
+        if (label_.Has(toolkit::Small)) {
             SetColor(SmallTitleColor);
             setAlignment(Qt::AlignRight | Qt::AlignVCenter);
         }
-        if (label_.Has(toolkit::Bold) || label_.Has(toolkit::Title)) {
+        if (label_.Has(toolkit::Bold)) {
             QFont bold = font();
             bold.setBold(true);
             setFont(bold);
@@ -104,15 +101,6 @@ class LabelWidget final : public QLabel, public NativeControl {
         if (Link() != nullptr) {
             SetLinkLook();
         }
-    }
-
-    /// Draws the text as large as the place allows. It is scaled, because a font of its own would
-    /// take a thirtieth of the start.
-    void DrawTitle() {
-        const double scale = std::min(LargestTitle, label_.Spec().place.height / LineHeight);
-        QPainter painter(this);
-        painter.scale(scale, scale);
-        painter.drawText(QRectF(QPointF(), QSizeF(size()) / scale), Qt::AlignVCenter, text());
     }
 
     void SetLinkLook() {

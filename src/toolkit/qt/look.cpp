@@ -1,7 +1,9 @@
 #include "toolkit/qt/look.h"
 
 #include <QApplication>
+#include <QPainter>
 #include <QStyle>
+#include <algorithm>
 #include <cstdlib>
 
 #include "toolkit/qt/style.h"
@@ -78,6 +80,19 @@ QColor LinkColor(const QPalette& palette) {
 QColor Blend(const QColor& from, const QColor& to, double share) {
     const auto mix = [share](int a, int b) { return a + static_cast<int>((b - a) * share); };
     return {mix(from.red(), to.red()), mix(from.green(), to.green()), mix(from.blue(), to.blue())};
+}
+
+QFont SpacedForBold(QFont font) {
+    font.setLetterSpacing(QFont::AbsoluteSpacing, std::max(1, QFontMetrics(font).height() / 14));
+    return font;
+}
+
+void DrawBold(QPainter& painter, const QRect& rect, int flags, const QString& text) {
+    const double pixelsPerUnit = painter.device()->devicePixelRatioF();
+    const int distance = qRound(painter.font().letterSpacing() * pixelsPerUnit);
+    for (int pixel = 0; pixel <= distance; ++pixel) {
+        painter.drawText(QRectF(rect).translated(pixel / pixelsPerUnit, 0), flags, text);
+    }
 }
 
 void ApplyLook() {

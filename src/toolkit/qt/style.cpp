@@ -7,6 +7,7 @@
 #include <QStyleOption>
 
 #include "toolkit/qt/look.h"
+#include "toolkit/qt/pictures.h"
 
 namespace desktop {
 namespace {
@@ -127,17 +128,17 @@ void DrawArrow(QPainter& painter, const QRect& field, const QStyleOption& option
     const QPointF tip(middle.x(), middle.y() + size / 4);
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(option.palette.color(QPalette::ButtonText), 1.4, Qt::SolidLine, Qt::FlatCap,
-                        Qt::MiterJoin));
-    painter.drawPolyline(
-        QPolygonF{tip - QPointF(size / 2, size / 2), tip, tip + QPointF(size / 2, -size / 2)});
+    painter.setPen(QPen(option.palette.color(QPalette::ButtonText), 1.4));
+    DrawLines(painter, QList<QPointF>{tip - QPointF(size / 2, size / 2), tip,
+                                      tip + QPointF(size / 2, -size / 2)});
     painter.restore();
 }
 
 /// Draws a group box whose outline is interrupted by its caption.
 void DrawGroup(QPainter& painter, const QStyleOptionGroupBox& group) {
+    const QFont font = SpacedForBold(painter.font());
     const int textHeight = group.fontMetrics.height();
-    const int textWidth = group.fontMetrics.horizontalAdvance(group.text);
+    const int textWidth = QFontMetrics(font).horizontalAdvance(group.text);
     const QRect text(group.rect.x() + textHeight, group.rect.y(), textWidth, textHeight);
     painter.save();
     if (!group.text.isEmpty()) {
@@ -148,7 +149,8 @@ void DrawGroup(QPainter& painter, const QStyleOptionGroupBox& group) {
                 QPen(Outline(group), 1), CornerRadius + 1);
     painter.restore();
     painter.setPen(group.palette.color(QPalette::WindowText));
-    painter.drawText(text, Qt::AlignLeft | Qt::AlignVCenter, group.text);
+    painter.setFont(font);
+    DrawBold(painter, text, Qt::AlignLeft | Qt::AlignVCenter, group.text);
 }
 
 bool IsInCombo(const QWidget* widget) {
@@ -228,7 +230,7 @@ void Style::drawComplexControl(ComplexControl control, const QStyleOptionComplex
 QRect Style::subControlRect(ComplexControl control, const QStyleOptionComplex* option,
                             SubControl part, const QWidget* widget) const {
     if (control == CC_GroupBox) {
-        return option->rect;  // nothing is laid out inside; this saves measuring its bold font
+        return option->rect;  // nothing is laid out inside
     }
     const QRect rect = QProxyStyle::subControlRect(control, option, part, widget);
     const auto* combo = qstyleoption_cast<const QStyleOptionComboBox*>(option);
