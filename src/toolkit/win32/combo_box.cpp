@@ -19,10 +19,10 @@ class NativeCombo : public NativeControl {
     void OnPropertyChanged(Property property, int row) override;
     void OnCreated() override;
     void OnLayout() override;
-    RECT Place() const override;
     void DrawItem(const DRAWITEMSTRUCT& item) override { DrawRow(item, list_, GetMetrics()); }
 
   private:
+    static constexpr int RowsShown = 16;  // of an open list
     int RowHeight() const { return GetMetrics().LineHeight() * 3 / 2; }
 
     toolkit::ItemControl& list_;
@@ -71,13 +71,6 @@ void NativeCombo::OnCreated() {
     }
 }
 
-RECT NativeCombo::Place() const {
-    RECT place = NativeControl::Place();
-    constexpr int RowsShown = 16;
-    place.bottom += RowsShown * RowHeight() + 2;  // the height includes the open list
-    return place;
-}
-
 /// Makes the closed box as high as a button. By default its height follows from the font.
 void NativeCombo::OnLayout() {
     RECT closed = {};
@@ -87,6 +80,7 @@ void NativeCombo::OnLayout() {
     constexpr auto Box = static_cast<WPARAM>(-1);
     Send(CB_SETITEMHEIGHT, Box, Send(CB_GETITEMHEIGHT, Box) + missing);
     Send(CB_SETITEMHEIGHT, 0, RowHeight());
+    Send(CB_SETMINVISIBLE, RowsShown);
     COMBOBOXINFO parts = {};
     parts.cbSize = sizeof parts;
     if (::GetComboBoxInfo(Handle(), &parts) != 0 && parts.hwndItem != Handle()) {
