@@ -89,7 +89,7 @@ class AccentButtonWidget final : public ButtonWidget {
         painter.setPen(isEnabled() ? color : Blend(color, Fill(option), 0.4));
         const bool underlined =
             style()->styleHint(QStyle::SH_UnderlineShortcut, &option, this) != 0;
-        painter.setFont(SpacedForBold(font()));
+        SpaceForBold(painter);
         DrawBold(painter, rect(),
                  Qt::AlignCenter | (underlined ? Qt::TextShowMnemonic : Qt::TextHideMnemonic),
                  text());

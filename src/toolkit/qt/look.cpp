@@ -82,9 +82,12 @@ QColor Blend(const QColor& from, const QColor& to, double share) {
     return {mix(from.red(), to.red()), mix(from.green(), to.green()), mix(from.blue(), to.blue())};
 }
 
-QFont SpacedForBold(QFont font) {
-    font.setLetterSpacing(QFont::AbsoluteSpacing, std::max(1, QFontMetrics(font).height() / 14));
-    return font;
+void SpaceForBold(QPainter& painter) {
+    const double pixelsPerUnit = painter.device()->devicePixelRatioF();
+    const double height = painter.fontMetrics().height() * pixelsPerUnit;
+    QFont font = painter.font();
+    font.setLetterSpacing(QFont::AbsoluteSpacing, std::max(1, qRound(height / 14)) / pixelsPerUnit);
+    painter.setFont(font);
 }
 
 void DrawBold(QPainter& painter, const QRect& rect, int flags, const QString& text) {

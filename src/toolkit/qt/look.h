@@ -34,12 +34,12 @@ QColor LinkColor(const QPalette& palette);
 /// Returns the color at `share` (0 to 1) of the way from `from` to `to`.
 QColor Blend(const QColor& from, const QColor& to, double share);
 
-/// Returns the font with the space between its letters that DrawBold needs.
-QFont SpacedForBold(QFont font);
+/// Sets the space between the letters of the painter's font to what DrawBold needs.
+void SpaceForBold(QPainter& painter);
 
-/// Draws a line of text in bold, with the flags of QPainter::drawText, and in the painter's font,
-/// which is that of SpacedForBold. The text is drawn side by side in the regular weight, because
-/// loading the bold font would take a twentieth of the start.
+/// Draws a line of text in bold, with the flags of QPainter::drawText, after SpaceForBold. The text
+/// is drawn side by side in the regular weight, because loading the bold font would take a
+/// twentieth of the start.
 void DrawBold(QPainter& painter, const QRect& rect, int flags, const QString& text);
 
 }  // namespace desktop

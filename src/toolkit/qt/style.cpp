@@ -136,9 +136,9 @@ void DrawArrow(QPainter& painter, const QRect& field, const QStyleOption& option
 
 /// Draws a group box whose outline is interrupted by its caption.
 void DrawGroup(QPainter& painter, const QStyleOptionGroupBox& group) {
-    const QFont font = SpacedForBold(painter.font());
+    SpaceForBold(painter);
     const int textHeight = group.fontMetrics.height();
-    const int textWidth = QFontMetrics(font).horizontalAdvance(group.text);
+    const int textWidth = painter.fontMetrics().horizontalAdvance(group.text);
     const QRect text(group.rect.x() + textHeight, group.rect.y(), textWidth, textHeight);
     painter.save();
     if (!group.text.isEmpty()) {
@@ -149,7 +149,6 @@ void DrawGroup(QPainter& painter, const QStyleOptionGroupBox& group) {
                 QPen(Outline(group), 1), CornerRadius + 1);
     painter.restore();
     painter.setPen(group.palette.color(QPalette::WindowText));
-    painter.setFont(font);
     DrawBold(painter, text, Qt::AlignLeft | Qt::AlignVCenter, group.text);
 }
 
