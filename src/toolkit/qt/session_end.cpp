@@ -59,7 +59,11 @@ void WatchSessionEnd() {
         action.sa_handler = WakeEventLoop;
         action.sa_flags = SA_RESTART;
         for (const int number : {SIGTERM, SIGINT, SIGHUP}) {
-            sigaction(number, &action, nullptr);
+            struct sigaction inherited = {};
+            sigaction(number, nullptr, &inherited);
+            if (inherited.sa_handler != SIG_IGN) {  // nohup lets its program outlive the terminal
+                sigaction(number, &action, nullptr);
+            }
         }
     }
     QObject::connect(qApp, &QGuiApplication::commitDataRequest, qApp, RequestClose,
