@@ -15,7 +15,7 @@ struct Kind {
 
 constexpr Kind OneLabel[] = {{WC_STATICW, 0, 1}};
 constexpr Kind AsManyAsOurs[] = {
-    {WC_STATICW, 0, 14},
+    {WC_STATICW, 0, 13},
     {WC_BUTTONW, BS_PUSHBUTTON, 13},
     {WC_BUTTONW, BS_AUTOCHECKBOX, 4},
     {WC_BUTTONW, BS_GROUPBOX, 1},

@@ -37,6 +37,9 @@ using Clock = std::chrono::steady_clock;
 constexpr std::array Rows = {"start to mapped window, ms", "start to first content, ms",
                              "processor time until settled, ms", "resident memory, KiB"};
 
+/// After a start or an end, nothing goes on any more.
+constexpr std::chrono::milliseconds Settling(400);
+
 /// One value per row.
 using Sample = std::array<double, Rows.size()>;
 
@@ -177,13 +180,14 @@ Sample MeasureOnce(TopLevelWindows& screen, const std::string& command, WindowSi
     Clock::time_point mapped;
     Clock::time_point drawn;
     screen.WaitForContent(mapped, drawn, size);
-    std::this_thread::sleep_for(std::chrono::milliseconds(400));  // by then nothing goes on
+    std::this_thread::sleep_for(Settling);
     const std::chrono::duration<double, std::milli> toMapped = mapped - start;
     const std::chrono::duration<double, std::milli> toDrawn = drawn - start;
     const Sample sample = {toMapped.count(), toDrawn.count(), ProcessorMilliseconds(process),
                            ResidentKibibytes(process)};
     kill(process, SIGKILL);
     waitpid(process, nullptr, 0);
+    std::this_thread::sleep_for(Settling);  // servers clean up after it
     return sample;
 }
 
@@ -206,7 +210,7 @@ int MeasureAnswers(const std::string& command) {
     Clock::time_point ignored;
     WindowSize size;
     screen.Focus(screen.WaitForContent(ignored, ignored, size));
-    std::this_thread::sleep_for(std::chrono::milliseconds(400));
+    std::this_thread::sleep_for(Settling);
     const auto median = [&](std::array<KeySym, 2> keys) {
         constexpr int Rounds = 31;
         std::vector<double> times;
