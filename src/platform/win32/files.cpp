@@ -9,11 +9,11 @@
 namespace platform {
 namespace {
 
-OVERLAPPED At(std::int64_t position) {
-    OVERLAPPED place = {};
-    place.Offset = static_cast<DWORD>(position);
-    place.OffsetHigh = static_cast<DWORD>(position >> 32);
-    return place;
+/// Sets where the file is read or written next. Returns whether it could.
+bool MoveTo(HANDLE file, std::int64_t position) {
+    LARGE_INTEGER distance = {};
+    distance.QuadPart = position;
+    return ::SetFilePointerEx(file, distance, nullptr, FILE_BEGIN) != 0;
 }
 
 /// One call transfers less than 4 GiB.
@@ -78,19 +78,17 @@ void File::Close() {
 Outcome File::ReadAt(std::int64_t position, void* buffer, std::size_t size,
                      std::size_t& count) const {
     count = 0;
-    if (position < 0) {
-        return {false, ErrorText(ERROR_NEGATIVE_SEEK)};
+    if (!MoveTo(NativeHandle(*this), position)) {
+        return LastError();
     }
     while (count < size) {
-        OVERLAPPED place = At(position + static_cast<std::int64_t>(count));
         DWORD read = 0;
-        const bool done = ::ReadFile(NativeHandle(*this), static_cast<char*>(buffer) + count,
-                                     Piece(size - count), &read, &place) != 0;
-        if (!done && ::GetLastError() != ERROR_HANDLE_EOF) {
+        if (!::ReadFile(NativeHandle(*this), static_cast<char*>(buffer) + count,
+                        Piece(size - count), &read, nullptr)) {
             count = 0;
             return LastError();
         }
-        if (!done || read == 0) {
+        if (read == 0) {
             break;
         }
         count += read;
@@ -99,15 +97,16 @@ Outcome File::ReadAt(std::int64_t position, void* buffer, std::size_t size,
 }
 
 Outcome File::WriteAt(std::int64_t position, std::string_view bytes) {
+    if (!MoveTo(NativeHandle(*this), position)) {
+        return LastError();
+    }
     while (!bytes.empty()) {
-        OVERLAPPED place = At(position);
         DWORD written = 0;
         if (!::WriteFile(NativeHandle(*this), bytes.data(), Piece(bytes.size()), &written,
-                         &place)) {
+                         nullptr)) {
             return LastError();
         }
         bytes.remove_prefix(written);
-        position += written;
     }
     return {};
 }
