@@ -14,6 +14,7 @@
 #include "setup/setup.h"
 #include "state/engine_files.h"
 #include "text/ascii.h"
+#include "toolkit/win32/controls.h"
 #include "toolkit/win32/native_windows.h"
 
 namespace {
@@ -44,11 +45,12 @@ std::string NameOf(HWND window) {
 /// `letters` are those of the controls before it.
 void ExpectControl(const toolkit::Control& control, std::string& letters) {
     const toolkit::ControlSpec& spec = control.Spec();
-    const HWND window = desktop::FindNative(control)->Handle();
-    if ((GetWindowLongW(window, GWL_STYLE) & WS_TABSTOP) == 0 || !control.Visible()) {
+    if (!desktop::IsInTabOrder(control) || !control.Visible()) {
         return;
     }
     SCOPED_TRACE("control " + std::to_string(control.Index()) + " " + control.Caption());
+    const HWND window = desktop::FindNative(control)->Handle();
+    EXPECT_NE(GetWindowLongW(window, GWL_STYLE) & WS_TABSTOP, 0);
     wchar_t text[100] = L"";
     GetClassNameW(window, text, std::size(text));
     EXPECT_STRCASEEQ(platform::Bytes(text).c_str(),

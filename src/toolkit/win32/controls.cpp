@@ -53,11 +53,10 @@ std::unique_ptr<NativeControl> MakeControl(NativeWindow& parent, toolkit::Contro
         case toolkit::Kind::Frame:
             return MakeFrame(parent, control);
         case toolkit::Kind::Divider:
-            return MakeDivider(parent, control);
         case toolkit::Kind::Picture:
             break;
     }
-    return MakePicture(parent, control);
+    return nullptr;
 }
 
 bool IsInTabOrder(const toolkit::Control& control) {

@@ -9,7 +9,7 @@
 
 namespace desktop {
 
-/// Creates the native control of any kind of control.
+/// Creates the native control of any kind of control. Returns null for a part of the backdrop.
 std::unique_ptr<NativeControl> MakeControl(NativeWindow& parent, toolkit::Control& control);
 
 std::unique_ptr<NativeControl> MakeLabel(NativeWindow& parent, toolkit::Label& label);
@@ -23,8 +23,6 @@ std::unique_ptr<NativeControl> MakeDropDownList(NativeWindow& parent, toolkit::D
 std::unique_ptr<NativeControl> MakeComboBox(NativeWindow& parent, toolkit::ComboBox& box);
 std::unique_ptr<NativeControl> MakeListView(NativeWindow& parent, toolkit::ListView& list);
 std::unique_ptr<NativeControl> MakeFrame(NativeWindow& parent, toolkit::Control& frame);
-std::unique_ptr<NativeControl> MakeDivider(NativeWindow& parent, toolkit::Control& divider);
-std::unique_ptr<NativeControl> MakePicture(NativeWindow& parent, toolkit::Control& picture);
 
 /// Whether the Tab key stops at a control.
 bool IsInTabOrder(const toolkit::Control& control);

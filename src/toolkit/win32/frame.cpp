@@ -1,4 +1,4 @@
-// BUTTON as a group box, and STATIC as a divider line.
+// BUTTON as a group box.
 #include "toolkit/win32/controls.h"
 
 namespace desktop {
@@ -20,11 +20,6 @@ class NativeFrame : public NativeControl {
 
 std::unique_ptr<NativeControl> MakeFrame(NativeWindow& parent, toolkit::Control& frame) {
     return std::make_unique<NativeFrame>(parent, frame);
-}
-
-std::unique_ptr<NativeControl> MakeDivider(NativeWindow& parent, toolkit::Control& divider) {
-    return std::make_unique<NativeControl>(parent, divider,
-                                           NativeClass{WC_STATICW, SS_ETCHEDHORZ | SS_NOTIFY});
 }
 
 }  // namespace desktop

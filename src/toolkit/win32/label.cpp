@@ -103,7 +103,7 @@ HBRUSH NativeLabel::Colors(HDC context) {
         const COLORREF text = label_.Has(toolkit::Title) ? OnBand : OnBandSmall;
         ::SetTextColor(context, IsHighContrast() ? ::GetSysColor(COLOR_WINDOWTEXT) : text);
         ::SetBkMode(context, TRANSPARENT);
-        return Parent().TitleBand().BackgroundBrush(Handle(), context);
+        return Parent().GetBackdrop().BandBrush(Handle(), context);
     }
     if (label_.Has(toolkit::Quiet) && ::GetSysColor(COLOR_WINDOWTEXT) == 0) {
         ::SetTextColor(context, QuietText);

@@ -107,8 +107,10 @@ Metrics NativeWindow::FittingMetrics(const toolkit::Window& window, int dpi) {
 
 void NativeWindow::MakeControls() {
     for (toolkit::Control* control : InStackingOrder(window_)) {
-        controls_.push_back(MakeControl(*this, *control));
-        controls_.back()->Create();
+        if (auto native = MakeControl(*this, *control)) {
+            controls_.push_back(std::move(native));
+            controls_.back()->Create();
+        }
     }
     default_ = FindWithFlag(toolkit::Default);
 }
@@ -132,7 +134,7 @@ void NativeWindow::UpdateSize() {
                        frame.bottom - frame.top + wanted.bottom - got.bottom,
                        SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
     }
-    band_.Layout(window_, metrics_);
+    backdrop_.Layout(window_, metrics_);
 }
 
 NativeControl* NativeWindow::Find(const toolkit::Control& control) const {

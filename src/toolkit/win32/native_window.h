@@ -5,7 +5,7 @@
 #include <optional>
 #include <vector>
 
-#include "toolkit/win32/band.h"
+#include "toolkit/win32/backdrop.h"
 #include "toolkit/win32/metrics.h"
 #include "toolkit/win32/native_control.h"
 #include "toolkit/win32/tool_tip.h"
@@ -28,8 +28,7 @@ class NativeWindow {
     toolkit::Window& GetWindow() const { return window_; }
     const Metrics& GetMetrics() const { return metrics_; }
     ToolTips& Tips() { return tips_; }
-    /// The title band, which the labels and pictures on it draw as their background.
-    Band& TitleBand() { return band_; }
+    Backdrop& GetBackdrop() { return backdrop_; }
     /// The native control of a control of the window; null if there is none.
     NativeControl* Find(const toolkit::Control& control) const;
     /// The native control with a handle; null if there is none.
@@ -64,6 +63,7 @@ class NativeWindow {
     LRESULT OnCommand(WPARAM wParam, LPARAM lParam);
     LRESULT OnNotify(WPARAM wParam, LPARAM lParam);
     LRESULT OnDrawItem(WPARAM wParam, LPARAM lParam);
+    LRESULT OnEraseBackground(WPARAM wParam, LPARAM lParam);
     LRESULT OnStaticColors(WPARAM wParam, LPARAM lParam);
     LRESULT OnClose(WPARAM wParam, LPARAM lParam);
     LRESULT OnEndSession(WPARAM wParam, LPARAM lParam);
@@ -89,7 +89,7 @@ class NativeWindow {
     Metrics metrics_;
     HWND handle_;
     ToolTips tips_{handle_};
-    Band band_;
+    Backdrop backdrop_;
     std::vector<std::unique_ptr<NativeControl>> controls_;
     NativeControl* default_ = nullptr;  // the button with the ring
     std::optional<POINT> menuPosition_;

@@ -12,6 +12,7 @@ const NativeWindow::Route NativeWindow::Routes[] = {
     {WM_COMMAND, &NativeWindow::OnCommand},
     {WM_NOTIFY, &NativeWindow::OnNotify},
     {WM_DRAWITEM, &NativeWindow::OnDrawItem},
+    {WM_ERASEBKGND, &NativeWindow::OnEraseBackground},
     {WM_CTLCOLORSTATIC, &NativeWindow::OnStaticColors},
     {WM_CLOSE, &NativeWindow::OnClose},
     {WM_ENDSESSION, &NativeWindow::OnEndSession},
@@ -81,6 +82,12 @@ LRESULT NativeWindow::OnDrawItem(WPARAM /*wParam*/, LPARAM lParam) {
         control->DrawItem(item);
     }
     return TRUE;
+}
+
+LRESULT NativeWindow::OnEraseBackground(WPARAM wParam, LPARAM lParam) {
+    const LRESULT erased = DefaultHandler(WM_ERASEBKGND, wParam, lParam);
+    backdrop_.Paint(reinterpret_cast<HDC>(wParam));
+    return erased;
 }
 
 LRESULT NativeWindow::OnStaticColors(WPARAM wParam, LPARAM lParam) {

@@ -10,8 +10,11 @@ namespace desktop {
 /// Resource name of the program's icon. The shell shows the first icon by name.
 inline constexpr wchar_t ProgramIcon[] = L"app";
 
-/// Loads a picture in the largest size of at most `size` pixels. Returns null if there is no such
-/// picture.
+/// The largest size of at most `size` pixels in which the pictures are drawn: Windows scales them
+/// badly.
+int DrawnSize(int size);
+
+/// Loads a picture in DrawnSize. Returns null if there is no such picture.
 OwnedIcon LoadPicture(std::string_view name, int size);
 
 }  // namespace desktop
