@@ -41,6 +41,20 @@ bool IsIgnored(char character) {
     return character == '\r' || character == '\t';
 }
 
+/// The character for which a letter stands after a backslash.
+char Unescaped(char letter) {
+    switch (letter) {
+        case 'n':
+            return '\n';
+        case 'r':
+            return '\r';
+        case 't':
+            return '\t';
+        default:
+            return letter;
+    }
+}
+
 /// The character of a numeric escape: the low eight bits of the code.
 char CharacterOf(std::string_view code) {
     return static_cast<char>(static_cast<unsigned char>(std::llrint(NumberValue(code)) & 0xFF));
@@ -205,11 +219,7 @@ void Reader::ReadEscape() {
         return;
     }
     if (!IsDigit(*at_)) {
-        constexpr std::string_view Letters = "nrt";
-        constexpr std::string_view Controls = "\n\r\t";
-        const std::size_t letter = Letters.find(*at_);
-        value_ += letter == std::string_view::npos ? *at_ : Controls[letter];
-        ++at_;
+        value_ += Unescaped(*at_++);
         return;
     }
     std::string code;
